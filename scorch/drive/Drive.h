@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "scorch/support/DiscContent.h"
+#include "scorch/support/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <stop_token>
+#include <string>
+
+namespace scorch {
+
+/// The medium in a drive, as last examined.
+struct DiscState {
+    bool present = false;
+    bool isCd = false;
+    bool blank = false;
+    std::int64_t freeSectors = 0; ///< Of a blank CD; 0 otherwise. The same for sound and data.
+
+    bool operator==(const DiscState &) const = default;
+};
+
+/// All that a client can see of a drive. A copied value.
+struct DriveState {
+    bool canWriteCd = false;
+    bool checking = false;
+    DiscState disc;
+
+    bool operator==(const DriveState &) const = default;
+};
+
+/// Where a recording stands. Called on the burn thread; must not block.
+class RecordObserver {
+public:
+    virtual ~RecordObserver() = default;
+
+    /// Tracks from 1.
+    virtual void openingTrack(std::size_t track, std::size_t count) = 0;
+    virtual void writingTrack(std::size_t track, std::size_t count) = 0;
+    virtual void closedTrack(std::size_t track, std::size_t count) = 0;
+    virtual void closedSession() = 0;
+    /// What was sent is being brought to the medium: flush, lead-out.
+    virtual void finishing() = 0;
+    /// Sectors of the whole disc written so far.
+    virtual void wroteSectors(std::int64_t sectors) = 0;
+};
+
+/// One recording on one disc. Made by Drive::beginRecording, used by the burn thread. Legal order:
+/// record, then any number of readBack, then commit. Destroying it before commit undoes what can be
+/// undone (an image drive leaves nothing) and returns when the drive is at rest.
+class DiscRecording {
+public:
+    virtual ~DiscRecording() = default;
+    DiscRecording(const DiscRecording &) = delete;
+    DiscRecording &operator=(const DiscRecording &) = delete;
+
+    /// Writes all tracks and closes the disc. Blocks. Notices a stop request within 200 ms.
+    virtual Outcome<> record(DiscContent &content, RecordObserver &observer,
+                             const std::stop_token &stop) = 0;
+
+    /// Reads whole sectors of a recorded track (index from 0) back from the medium, not from a
+    /// memory of what was sent, as far as the medium allows. Fills `buffer` or fails.
+    virtual Outcome<> readBack(std::size_t track, std::int64_t firstSector,
+                               std::span<std::byte> buffer, const std::stop_token &stop) = 0;
+
+    /// Makes the recording final. From here on it stays, whatever happens.
+    virtual Result<void> commit() = 0;
+
+protected:
+    DiscRecording() = default;
+};
+
+/// One drive. Queries answer from memory; any thread. A drive outlives the handles on it and is
+/// shared by them and by a burn.
+class Drive {
+public:
+    virtual ~Drive() = default;
+    Drive(const Drive &) = delete;
+    Drive &operator=(const Drive &) = delete;
+
+    /// As the user sees it, unique among the drives, UTF-8.
+    virtual const std::string &name() const = 0;
+    virtual DriveState state() const = 0;
+
+    /// `changed` is called on any thread, under no lock, after each real change of state().
+    virtual void setStateObserver(std::function<void()> changed) = 0;
+
+    /// Starts to put the disc out; ignored while a recording holds the drive.
+    virtual void eject() = 0;
+
+    /// Takes the drive for one recording of this content. Fails where it can be known beforehand
+    /// that it cannot work (folder missing, read-only or full; no blank disc; too long). Blocks.
+    virtual Outcome<std::unique_ptr<DiscRecording>> beginRecording(const DiscContent &content,
+                                                                   const std::stop_token &stop) = 0;
+
+protected:
+    Drive() = default;
+};
+
+} // namespace scorch
