@@ -19,7 +19,7 @@ TemporaryFolder::TemporaryFolder() {
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
     for (const auto &entry : std::filesystem::recursive_directory_iterator(path_, ignored)) {
-        if (entry.is_directory() && !entry.is_symlink()) {
+        if (!entry.is_symlink(ignored) && entry.is_directory(ignored)) {
             std::filesystem::permissions(entry.path(), std::filesystem::perms::owner_all,
                                          std::filesystem::perm_options::add, ignored);
         }
