@@ -2,14 +2,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QCborArray>
-#include <QCborMap>
-#include <QCborValue>
+#include <QCborStreamReader>
+#include <QCborStreamWriter>
 #include <QList>
 #include <QString>
 
 #include <optional>
-#include <utility>
 
 /// A song of the host, or any file: the path is bytes, as the file system has them; artist and
 /// title are empty where the host knows none.
@@ -26,55 +24,120 @@ using SongList = QList<Song>;
 /// The format under which a host's song lists are dragged: encodeSongList's bytes.
 inline constexpr const char *songListMimeType = "CrateSongItemType";
 
+/// Bounds of what decodeSongList takes from another process. The second one keeps data that is
+/// small on the wire (a song can be eight bytes) from becoming a gigabyte of objects.
+inline constexpr qsizetype maximumSongListBytes = 64 * 1024 * 1024;
+inline constexpr qsizetype maximumSongListSongs = 1'000'000;
+
 /// The codec of that format: CBOR (RFC 8949), an array of maps with the keys "path" (byte string),
 /// "artist" and "title" (text strings, left out where empty).
 QByteArray encodeSongList(const SongList &songs);
 
-/// Nothing for data that is cut short, has something behind its end or is of another shape.
-/// Bounded: more than `maximumSongListBytes` is not even looked at.
+/// Nothing for data that is cut short, has something behind its end or is of another shape; keys
+/// that are not known are skipped. Read as a stream and given up at the first thing that does not
+/// belong, so that hostile data costs no more than its length.
 std::optional<SongList> decodeSongList(const QByteArray &data);
 
-inline constexpr qsizetype maximumSongListBytes = 64 * 1024 * 1024;
+namespace songlist {
+
+/// How deep a value under an unknown key may nest.
+inline constexpr int maximumNesting = 8;
+
+inline std::optional<QByteArray> readBytes(QCborStreamReader &reader) {
+    QByteArray bytes;
+    auto chunk = reader.readByteArray();
+    while (chunk.status == QCborStreamReader::Ok) {
+        bytes += chunk.data;
+        chunk = reader.readByteArray();
+    }
+    return chunk.status == QCborStreamReader::Error ? std::nullopt : std::optional(bytes);
+}
+
+inline std::optional<QString> readText(QCborStreamReader &reader) {
+    QString text;
+    auto chunk = reader.readString();
+    while (chunk.status == QCborStreamReader::Ok) {
+        text += chunk.data;
+        chunk = reader.readString();
+    }
+    return chunk.status == QCborStreamReader::Error ? std::nullopt : std::optional(text);
+}
+
+/// The value under `key` into `song`; false for one of another type.
+inline bool readField(QCborStreamReader &reader, const QString &key, Song &song) {
+    if (key == QLatin1String("path")) {
+        const auto bytes =
+            reader.isByteArray() ? readBytes(reader) : std::optional<QByteArray>(std::nullopt);
+        song.path = bytes.value_or(QByteArray());
+        return bytes.has_value();
+    }
+    if (key == QLatin1String("artist") || key == QLatin1String("title")) {
+        const auto text =
+            reader.isString() ? readText(reader) : std::optional<QString>(std::nullopt);
+        (key == QLatin1String("artist") ? song.artist : song.title) = text.value_or(QString());
+        return text.has_value();
+    }
+    return reader.next(maximumNesting);
+}
+
+/// The map that the reader stands at.
+inline std::optional<Song> readSong(QCborStreamReader &reader) {
+    Song song;
+    if (!reader.isMap() || !reader.enterContainer()) {
+        return std::nullopt;
+    }
+    while (reader.lastError() == QCborError::NoError && reader.hasNext()) {
+        const auto key =
+            reader.isString() ? readText(reader) : std::optional<QString>(std::nullopt);
+        if (!key || !readField(reader, *key, song)) {
+            return std::nullopt;
+        }
+    }
+    const bool isWhole = reader.lastError() == QCborError::NoError && reader.leaveContainer();
+    return isWhole && !song.path.isEmpty() ? std::optional(song) : std::nullopt;
+}
+
+} // namespace songlist
 
 inline QByteArray encodeSongList(const SongList &songs) {
-    QCborArray list;
+    QByteArray data;
+    QCborStreamWriter writer(&data);
+    writer.startArray(static_cast<quint64>(songs.size()));
     for (const Song &song : songs) {
-        QCborMap entry;
-        entry.insert(QStringLiteral("path"), song.path);
+        writer.startMap(1U + (song.artist.isEmpty() ? 0U : 1U) + (song.title.isEmpty() ? 0U : 1U));
+        writer.append(QLatin1String("path"));
+        writer.append(song.path);
         if (!song.artist.isEmpty()) {
-            entry.insert(QStringLiteral("artist"), song.artist);
+            writer.append(QLatin1String("artist"));
+            writer.append(song.artist);
         }
         if (!song.title.isEmpty()) {
-            entry.insert(QStringLiteral("title"), song.title);
+            writer.append(QLatin1String("title"));
+            writer.append(song.title);
         }
-        list.append(entry);
+        writer.endMap();
     }
-    return QCborValue(list).toCbor();
+    writer.endArray();
+    return data;
 }
 
 inline std::optional<SongList> decodeSongList(const QByteArray &data) {
     if (data.isEmpty() || data.size() > maximumSongListBytes) {
         return std::nullopt;
     }
-    QCborParserError error;
-    const QCborValue root = QCborValue::fromCbor(data, &error);
-    if (error.error != QCborError::NoError || error.offset != data.size() || !root.isArray()) {
+    QCborStreamReader reader(data);
+    if (!reader.isArray() || !reader.enterContainer()) {
         return std::nullopt;
     }
     SongList songs;
-    const QCborArray list = root.toArray();
-    songs.reserve(list.size());
-    for (const QCborValue entry : list) {
-        const QCborValue path = entry[QStringLiteral("path")];
-        const QCborValue artist = entry[QStringLiteral("artist")];
-        const QCborValue title = entry[QStringLiteral("title")];
-        const bool isSong = entry.isMap() && path.isByteArray() && !path.toByteArray().isEmpty() &&
-                            (artist.isString() || artist.isUndefined()) &&
-                            (title.isString() || title.isUndefined());
-        if (!isSong) {
+    while (reader.lastError() == QCborError::NoError && reader.hasNext()) {
+        auto song = songlist::readSong(reader);
+        if (!song || songs.size() == maximumSongListSongs) {
             return std::nullopt;
         }
-        songs.append({path.toByteArray(), artist.toString(), title.toString()});
+        songs.append(std::move(*song));
     }
-    return songs;
+    const bool isWhole = reader.lastError() == QCborError::NoError && reader.leaveContainer() &&
+                         reader.currentOffset() == data.size();
+    return isWhole ? std::optional(songs) : std::nullopt;
 }
