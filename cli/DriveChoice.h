@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "cli/ExitCode.h"
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+class ScorcherDevice;
+
+namespace cli {
+
+/// Why no drive can be used, and how the program ends for it.
+struct DriveProblem {
+    std::string text;
+    ExitCode exitCode = ExitCode::failed;
+};
+
+/// The drive to burn with: the one of that name, or the only one if `wanted` is empty.
+std::variant<DriveProblem, std::string> chooseDrive(const std::vector<std::string> &drives,
+                                                    const std::string &wanted);
+
+/// Why the disc in the drive cannot be burned, for a person; nothing if it can. Not to be asked
+/// while the drive examines the disc.
+std::optional<std::string> discProblem(const ScorcherDevice &device);
+
+/// What is in the drive, in words: "blank CD, 79:57 or 737.0 MB free".
+std::string discText(const ScorcherDevice &device);
+
+/// The same as one word: unusable, checking, none, other, written or blank.
+std::string discWord(const ScorcherDevice &device);
+
+} // namespace cli
