@@ -46,8 +46,8 @@ public:
             return;
         }
         if (delegate_ != nullptr) {
-            auto &slots = registry(delegate_).slots_;
-            slots.erase(std::remove(slots.begin(), slots.end(), this), slots.end());
+            auto &entries = registry(delegate_).slots_;
+            entries.erase(std::remove(entries.begin(), entries.end(), this), entries.end());
         }
         delegate_ = delegate;
         if (delegate_ != nullptr) {

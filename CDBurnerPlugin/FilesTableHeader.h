@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include <QHeaderView>
+
+/// The burn list's header. The title of the last column ends where the column's texts end: before
+/// the room that each row keeps for its delete button.
+class FilesTableHeader : public QHeaderView {
+    Q_OBJECT
+
+public:
+    FilesTableHeader(int roomAtEnd, QWidget *parent);
+
+protected:
+    void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;
+
+private:
+    int roomAtEnd_; // Points.
+};

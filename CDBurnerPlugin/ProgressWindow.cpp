@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "CDBurnerPlugin/ProgressWindow.h"
+
+#include "CDBurnerPlugin/Localization.h"
+#include "CDBurnerPlugin/Log.h"
+#include "CDBurnerPlugin/MainQueue.h"
+#include "ui_ProgressWindow.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// Steps of the bar from empty to full: finer than its pixels.
+constexpr int barSteps = 2000;
+
+int barValue(double progress) {
+    return std::isnan(progress)
+               ? 0
+               : static_cast<int>(std::lround(std::clamp(progress, 0.0, 1.0) * barSteps));
+}
+
+} // namespace
+
+ProgressWindow::ProgressWindow(QWidget *parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::ProgressWindow>()) {
+    ui_->setupUi(this);
+    setWindowModality(Qt::WindowModal);
+    setWindowTitle(localizedString("CD Burner"));
+    connect(ui_->btnCancel, &QPushButton::clicked, this, &ProgressWindow::clickCancel);
+    fitToFont();
+    awakeFromNib();
+}
+
+ProgressWindow::~ProgressWindow() = default;
+
+void ProgressWindow::awakeFromNib() {
+    ui_->progressIndicator->setRange(0, barSteps);
+    setProgress(0.0);
+    ui_->btnCancel->setText(localizedString("Cancel"));
+    setTexts(QString(), QString());
+}
+
+void ProgressWindow::fitToFont() {
+    constexpr int narrowest = 380;
+    constexpr int charactersWide = 56;
+    const int width = std::max(narrowest, charactersWide * fontMetrics().averageCharWidth());
+    ui_->progressIndicator->setFixedWidth(width);
+}
+
+QPushButton *ProgressWindow::defaultButton() const {
+    return ui_->btnCancel;
+}
+
+QString ProgressWindow::name() const {
+    return ui_->txtName->text();
+}
+
+QString ProgressWindow::tips() const {
+    return ui_->txtTips->text();
+}
+
+void ProgressWindow::setType(qint64 type) {
+    _type = type;
+    if (_type != closedType) {
+        ui_->btnCancel->setEnabled(true);
+    }
+}
+
+bool ProgressWindow::isButtonOK() const {
+    return _type == burningType && ui_->btnCancel->text() == localizedString("OK");
+}
+
+void ProgressWindow::clickCancel() {
+    isAnimating_ = false;
+    if (myDelegate() == nullptr) {
+        return;
+    }
+    if (isButtonOK()) {
+        myDelegate()->progressDidOK(_type);
+    } else {
+        myDelegate()->progressDidCancel(_type);
+    }
+}
+
+void ProgressWindow::reject() {
+    if (ui_->btnCancel->isEnabled()) {
+        clickCancel();
+    }
+}
+
+void ProgressWindow::keyPressEvent(QKeyEvent *event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn) {
+        QDialog::keyPressEvent(event);
+    } else if (isButtonOK()) {
+        // Return may not cancel: it is often still on its way from the field before.
+        reject();
+    }
+}
+
+void ProgressWindow::changeEvent(QEvent *event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::FontChange && ui_ != nullptr) {
+        fitToFont();
+    }
+}
+
+void ProgressWindow::setTexts(const QString &name, const QString &tips) {
+    ui_->txtName->setText(name);
+    ui_->txtTips->setText(tips);
+}
+
+void ProgressWindow::setProgress(double progress) {
+    progress_ = progress;
+    ui_->progressIndicator->setValue(barValue(progress));
+}
+
+void ProgressWindow::updateNameTips(const QString &name, const QString &tips) {
+    MainQueue::async([self = QPointer(this), name, tips] {
+        if (self != nullptr) {
+            self->setTexts(name, tips);
+        }
+    });
+}
+
+void ProgressWindow::updateProgressByNameTips(float progress, const QString &name,
+                                              const QString &tips) {
+    MainQueue::async([self = QPointer(this), progress, name, tips] {
+        if (self != nullptr) {
+            self->isAnimating_ = true;
+            self->setProgress(static_cast<double>(progress));
+            self->setTexts(name, tips);
+        }
+    });
+}
+
+void ProgressWindow::runSheetForWindow(QWidget *parent) {
+    if (parent == nullptr) {
+        return;
+    }
+    MainQueue::sync([self = QPointer(this), window = QPointer(parent)] {
+        if (self != nullptr && window != nullptr) {
+            self->beginSheet(window);
+        }
+    });
+}
+
+void ProgressWindow::beginSheet(QWidget *parent) {
+    if (isAttachedTo(parent)) {
+        raise();
+    }
+    _parentWindow = parent;
+    if (parentWidget() != parent) {
+        setParent(parent, windowFlags());
+        setWindowModality(Qt::WindowModal);
+    }
+    open();
+}
+
+void ProgressWindow::closeSheet() {
+    MainQueue::sync([self = QPointer(this)] {
+        if (self != nullptr) {
+            self->endSheet();
+        }
+    });
+}
+
+void ProgressWindow::endSheet() {
+    if (_parentWindow == nullptr || !isAttachedTo(_parentWindow)) {
+        qCInfo(toolLog, "==>>i am not a sheet, just order me out, thanks.");
+        hide();
+        return;
+    }
+    setType(closedType);
+    hide();
+}
+
+bool ProgressWindow::isAttachedTo(const QWidget *window) const {
+    // Hidden with its window it is its sheet all the same.
+    return window != nullptr && _parentWindow == window && !isHidden();
+}

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "CDBurnerPlugin/VolumeNameEdit.h"
+
+#include <QScopedValueRollback>
+#include <QValidator>
+
+#include <algorithm>
+#include <utility>
+
+/// Asked by the line edit after each edit. "Invalid" makes it take back just that edit, and leaves
+/// the history of the edits before alone; a validator that changed the text itself would clear it.
+class VolumeNameEdit::Vetting final : public QValidator {
+public:
+    explicit Vetting(VolumeNameEdit *field) : QValidator(field), field_(field) {}
+
+    State validate(QString &text, int &cursor) const override {
+        return field_->vet(text, cursor) ? Acceptable : Invalid;
+    }
+
+private:
+    VolumeNameEdit *field_;
+};
+
+VolumeNameEdit::VolumeNameEdit(QWidget *parent) : QLineEdit(parent) {
+    setValidator(new Vetting(this));
+    // All three are sent when an edit is over, so that `before_` still holds what was before it
+    // while it is vetted.
+    connect(this, &QLineEdit::textChanged, this, &VolumeNameEdit::remember);
+    connect(this, &QLineEdit::selectionChanged, this, &VolumeNameEdit::remember);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &VolumeNameEdit::remember);
+    // For edits that no event of this field brings, such as a choice in its context menu.
+    connect(this, &QLineEdit::inputRejected, this, &VolumeNameEdit::applyReplacement,
+            Qt::QueuedConnection);
+    remember();
+}
+
+void VolumeNameEdit::setText(const QString &text) {
+    replacement_.reset();
+    const QScopedValueRollback guard(isSettingText_, true);
+    QLineEdit::setText(text);
+}
+
+void VolumeNameEdit::remember() {
+    const bool hasSelection = hasSelectedText();
+    before_ = {text(), hasSelection ? selectionStart() : cursorPosition(),
+               hasSelection ? selectionLength() : 0};
+}
+
+bool VolumeNameEdit::vet(const QString &proposed, int cursor) {
+    if (isSettingText_) {
+        return true;
+    }
+    Edit edit = {
+        proposed, cursor, 0, before_.text, before_.selectionStart, before_.selectionLength};
+    if (formatter_.isPartialStringValid(edit)) {
+        return true;
+    }
+    if (edit.text != proposed) {
+        const qsizetype cut = edit.selectionLocation;
+        const qsizetype start = std::min(cut, before_.selectionStart);
+        replacement_ =
+            Replacement{before_.text, start, before_.selectionStart + before_.selectionLength,
+                        edit.text.mid(start, cut - start)};
+    }
+    return false;
+}
+
+bool VolumeNameEdit::event(QEvent *event) {
+    const bool isHandled = QLineEdit::event(event);
+    applyReplacement();
+    return isHandled;
+}
+
+void VolumeNameEdit::applyReplacement() {
+    if (!replacement_) {
+        return;
+    }
+    const Replacement wanted = *std::exchange(replacement_, std::nullopt);
+    if (text() != wanted.originalText) {
+        return; // Somebody has set another text meanwhile.
+    }
+    // As one edit of the text as it stands again, so that undo takes back what was put in.
+    setSelection(static_cast<int>(wanted.start), static_cast<int>(wanted.end - wanted.start));
+    if (wanted.start != wanted.end || !wanted.inserted.isEmpty()) {
+        insert(wanted.inserted);
+    }
+}
