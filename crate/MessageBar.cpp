@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "crate/MessageBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace crate {
+
+MessageBar::MessageBar(QWidget *parent) : QFrame(parent), text_(new QLabel(this)) {
+    setObjectName(QStringLiteral("messageBar"));
+    setBackgroundRole(QPalette::ToolTipBase);
+    setAutoFillBackground(true);
+    text_->setObjectName(QStringLiteral("messageText"));
+    text_->setForegroundRole(QPalette::ToolTipText);
+    text_->setTextFormat(Qt::PlainText);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text_->setWordWrap(true);
+    const int iconSize = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    auto *icon = new QLabel(this);
+    icon->setPixmap(style()
+                        ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)
+                        .pixmap({iconSize, iconSize}, devicePixelRatioF()));
+    auto *dismiss = new QToolButton(this);
+    dismiss->setObjectName(QStringLiteral("messageClose"));
+    dismiss->setAutoRaise(true);
+    dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
+    dismiss->setToolTip(tr("Close this message"));
+    dismiss->setAccessibleName(dismiss->toolTip());
+    connect(dismiss, &QToolButton::clicked, this, &QWidget::hide);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 6, 6);
+    layout->addWidget(icon);
+    layout->addWidget(text_, 1);
+    layout->addWidget(dismiss);
+    hide();
+}
+
+void MessageBar::showMessage(const QString &text) {
+    text_->setText(text);
+    setAccessibleName(text);
+    show();
+}
+
+} // namespace crate

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "crate/SongModel.h"
+
+#include <QFile>
+#include <QMimeData>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace crate {
+
+SongModel::SongModel(QObject *parent) : QAbstractTableModel(parent) {}
+
+void SongModel::addSongs(const std::vector<SongRow> &songs) {
+    const SongIndex first = songs_.size();
+    songs_.insert(songs_.end(), songs.begin(), songs.end());
+    const std::vector<SongIndex> added = matchingFrom(first);
+    if (!added.empty()) {
+        const auto formerCount = static_cast<std::ptrdiff_t>(visible_.size());
+        beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(added.size()) - 1);
+        visible_.insert(visible_.end(), added.begin(), added.end());
+        endInsertRows();
+        // Views know rows at the end more cheaply than a thousand single ones in between; nothing
+        // is painted before they stand in their places.
+        std::vector<SongIndex> merged = visible_;
+        std::inplace_merge(merged.begin(), merged.begin() + formerCount, merged.end(),
+                           [this](SongIndex a, SongIndex b) { return isBefore(a, b); });
+        reorder(std::move(merged));
+        addLengthOf(added);
+    }
+    emit contentChanged();
+}
+
+void SongModel::clear() {
+    beginResetModel();
+    songs_.clear();
+    visible_.clear();
+    visibleLength_ = {};
+    endResetModel();
+    emit contentChanged();
+}
+
+void SongModel::setSearch(const QString &text) {
+    const QStringList words = foldedForSearch(text).simplified().split(u' ', Qt::SkipEmptyParts);
+    if (words == words_) {
+        return;
+    }
+    words_ = words;
+    beginResetModel();
+    visible_ = matchingFrom(0);
+    visibleLength_ = {};
+    addLengthOf(visible_);
+    endResetModel();
+    emit contentChanged();
+}
+
+const LibrarySong &SongModel::songAt(int row) const {
+    return songs_[visible_[static_cast<std::size_t>(row)]].song;
+}
+
+int SongModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(visible_.size());
+}
+
+int SongModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : songColumnCount;
+}
+
+QVariant SongModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const LibrarySong &song = songAt(index.row());
+    const auto column = static_cast<SongColumn>(index.column());
+    switch (role) {
+    case Qt::DisplayRole:
+        return textAt(song, column);
+    case Qt::ToolTipRole:
+        return QFile::decodeName(song.path);
+    case Qt::TextAlignmentRole:
+        if (column == SongColumn::track || column == SongColumn::length) {
+            return QVariant::fromValue(Qt::AlignTrailing | Qt::AlignVCenter);
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant SongModel::textAt(const LibrarySong &song, SongColumn column) const {
+    switch (column) {
+    case SongColumn::title:
+        return song.displayTitle();
+    case SongColumn::artist:
+        return song.artist;
+    case SongColumn::album:
+        return song.album;
+    case SongColumn::track:
+        return song.track > 0 ? QVariant(song.track) : QVariant();
+    case SongColumn::length:
+        return songLengthText(song.length);
+    }
+    return {};
+}
+
+QVariant SongModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal) {
+        return {};
+    }
+    const auto column = static_cast<SongColumn>(section);
+    const bool isNumber = column == SongColumn::track || column == SongColumn::length;
+    if (role == Qt::TextAlignmentRole) {
+        return QVariant::fromValue((isNumber ? Qt::AlignTrailing : Qt::AlignLeading) |
+                                   Qt::AlignVCenter);
+    }
+    if (role != Qt::DisplayRole) {
+        return {};
+    }
+    switch (column) {
+    case SongColumn::title:
+        return tr("Title");
+    case SongColumn::artist:
+        return tr("Artist");
+    case SongColumn::album:
+        return tr("Album");
+    case SongColumn::track:
+        return tr("Track");
+    case SongColumn::length:
+        return tr("Length");
+    }
+    return {};
+}
+
+Qt::ItemFlags SongModel::flags(const QModelIndex &index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren : flags;
+}
+
+void SongModel::sort(int column, Qt::SortOrder order) {
+    if (column < 0 || column >= songColumnCount) {
+        return;
+    }
+    sortColumn_ = static_cast<SongColumn>(column);
+    sortOrder_ = order;
+    reorder(matchingFrom(0));
+}
+
+bool SongModel::isBefore(SongIndex a, SongIndex b) const {
+    const int order = compareSongRows(songs_[a], songs_[b], sortColumn_);
+    return sortOrder_ == Qt::AscendingOrder ? order < 0 : order > 0;
+}
+
+std::vector<SongModel::SongIndex> SongModel::matchingFrom(SongIndex first) const {
+    std::vector<SongIndex> matching;
+    for (SongIndex index = first; index < songs_.size(); ++index) {
+        if (matches(songs_[index], words_)) {
+            matching.push_back(index);
+        }
+    }
+    std::sort(matching.begin(), matching.end(),
+              [this](SongIndex a, SongIndex b) { return isBefore(a, b); });
+    return matching;
+}
+
+void SongModel::reorder(std::vector<SongIndex> order) {
+    if (order == visible_) {
+        return;
+    }
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    if (!before.isEmpty()) {
+        std::vector<int> rowOf(songs_.size(), -1);
+        for (std::size_t row = 0; row < order.size(); ++row) {
+            rowOf[order[row]] = static_cast<int>(row);
+        }
+        QModelIndexList after;
+        after.reserve(before.size());
+        for (const QModelIndex &index : before) {
+            const SongIndex song = visible_[static_cast<std::size_t>(index.row())];
+            after.append(createIndex(rowOf[song], index.column()));
+        }
+        changePersistentIndexList(before, after);
+    }
+    visible_ = std::move(order);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+void SongModel::addLengthOf(const std::vector<SongIndex> &songs) {
+    for (const SongIndex index : songs) {
+        visibleLength_ += songs_[index].song.length.value_or(std::chrono::milliseconds(0));
+    }
+}
+
+QStringList SongModel::mimeTypes() const {
+    return {QString::fromLatin1(songListMimeType)};
+}
+
+QMimeData *SongModel::mimeData(const QModelIndexList &indexes) const {
+    std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(indexes.size()));
+    for (const QModelIndex &index : indexes) {
+        if (index.isValid()) {
+            rows.push_back(index.row());
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    if (rows.empty()) {
+        return nullptr;
+    }
+    SongList songs;
+    songs.reserve(static_cast<qsizetype>(rows.size()));
+    for (const int row : rows) {
+        songs.append(songAt(row).asSong());
+    }
+    auto *data = new QMimeData; // The caller's, as Qt has it.
+    data->setData(QString::fromLatin1(songListMimeType), encodeSongList(songs));
+    return data;
+}
+
+Qt::DropActions SongModel::supportedDragActions() const {
+    return Qt::CopyAction;
+}
+
+} // namespace crate
