@@ -101,7 +101,7 @@ private:
 
     DelegateSlot<FilesTableViewDelegate> delegate_;
     FilesTableModel *filesModel_;
-    HoverTracker *hoverTracker_;
+    HoverTracker *hoverTracker_ = nullptr;
     qint64 _previousRow = -1;
     Background background_ = Background::theme;
     std::optional<qint64> dropRow_; // Where a line shows that dragged rows would land.
