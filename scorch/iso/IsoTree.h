@@ -21,9 +21,10 @@ struct IsoNode {
     std::string name;           ///< Bytes, as in the file system.
     std::filesystem::path path; ///< Where to read it (links followed).
     bool isFolder = false;
-    std::uint64_t size = 0; ///< Bytes; 0 for a folder.
-    std::int64_t mtime = 0; ///< Seconds since 1970, UTC.
-    mode_t mode = 0;        ///< Permission bits.
+    std::uint64_t size = 0;            ///< Bytes; 0 for a folder.
+    std::int64_t mtime = 0;            ///< Seconds since 1970, UTC.
+    std::int64_t mtimeNanoseconds = 0; ///< Behind the second: tells two saves in one second apart.
+    mode_t mode = 0;                   ///< Permission bits.
     uid_t uid = 0;
     gid_t gid = 0;
     dev_t device = 0; ///< With `inode`: what makes two names the same file.
@@ -39,7 +40,8 @@ struct IsoRootEntry {
     std::string name;
 };
 
-/// Told by a scan of each file as it is looked at (not of folders).
+/// Told by a scan of each regular file as it is looked at, whether it is taken or not: as often as
+/// countFiles counts. Not of folders.
 using ScanProgress = std::function<void(const std::filesystem::path &file)>;
 
 /// What a scan of one dropped path found.
@@ -52,12 +54,15 @@ struct IsoScan {
 };
 
 /// How many regular files a path holds, links followed as scanPath follows them: to know the count
-/// before the first report. Blocks; any thread.
+/// before the first report. Files that a scan will refuse for want of permission are counted. Ends
+/// early, with what was counted, after a stop request. Blocks; any thread.
 std::uint64_t countFiles(const std::filesystem::path &path, const std::stop_token &stop);
 
 /// Takes a file or folder in: regular files and folders, symbolic links followed once (a loop
 /// neither hangs nor repeats); unreadable files, dangling links, FIFOs, sockets and devices are
-/// refused, a folder is taken without them. Hidden files belong to a folder. Blocks; any thread.
+/// refused, a folder is taken without them. Hidden files belong to a folder. Nothing is opened but
+/// folders. The only interruption is a stop request: what cannot be taken is in the result. Blocks;
+/// any thread.
 Outcome<IsoScan> scanPath(const std::filesystem::path &path, const ScanProgress &progress,
                           const std::stop_token &stop);
 
