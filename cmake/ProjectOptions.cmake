@@ -37,6 +37,10 @@ target_compile_options(
             $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
             $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual>
             $<$<COMPILE_LANGUAGE:CXX>:-Wextra-semi>)
+# gcc 12 sees overlapping copies in `"text" + std::string` at -O2 where there are none.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(cdburner_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict>)
+endif()
 target_include_directories(cdburner_options INTERFACE "${CMAKE_SOURCE_DIR}")
 target_compile_definitions(cdburner_options INTERFACE CDBURNER_VERSION="${PROJECT_VERSION}")
 
