@@ -6,6 +6,7 @@
 #include "engine/ScorcherDevice.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace cli {
 namespace {
@@ -18,10 +19,19 @@ std::string listed(const std::vector<std::string> &drives) {
     return text;
 }
 
+/// The engine names image drives so; all others have names of their makers.
+std::vector<std::string> imageDrivesOf(const std::vector<std::string> &drives) {
+    std::vector<std::string> images;
+    std::copy_if(drives.begin(), drives.end(), std::back_inserter(images),
+                 [](const std::string &name) { return name.starts_with("Disc image ("); });
+    return images;
+}
+
 } // namespace
 
-std::variant<DriveProblem, std::string> chooseDrive(const std::vector<std::string> &drives,
-                                                    const std::string &wanted) {
+std::variant<DriveProblem, std::string> chooseDrive(const std::vector<std::string> &all,
+                                                    const std::string &wanted, DriveKind kind) {
+    const std::vector<std::string> drives = kind == DriveKind::any ? all : imageDrivesOf(all);
     if (drives.empty()) {
         return DriveProblem{"No CD drive was found. Connect one, or burn to a folder with "
                             "--image-drive."};

@@ -18,9 +18,13 @@ struct DriveProblem {
     ExitCode exitCode = ExitCode::failed;
 };
 
-/// The drive to burn with: the one of that name, or the only one if `wanted` is empty.
+/// Which of the drives may be meant.
+enum class DriveKind { any, imageDrive };
+
+/// The drive to burn with: the one of that name, or the only one of that kind if `wanted` is empty.
 std::variant<DriveProblem, std::string> chooseDrive(const std::vector<std::string> &drives,
-                                                    const std::string &wanted);
+                                                    const std::string &wanted,
+                                                    DriveKind kind = DriveKind::any);
 
 /// Why the disc in the drive cannot be burned, for a person; nothing if it can. Not to be asked
 /// while the drive examines the disc.

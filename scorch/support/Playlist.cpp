@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/support/Playlist.h"
 
+#include "scorch/support/FileDescriptor.h"
 #include "scorch/support/Text.h"
 
 #include <algorithm>
@@ -149,25 +150,6 @@ ScorchError unreadable(int error) {
             localized("The playlist cannot be read (%@).", {detail}), detail};
 }
 
-/// Closes a file descriptor at the end of its scope.
-class OpenFile {
-public:
-    explicit OpenFile(const std::filesystem::path &path)
-        : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
-    ~OpenFile() {
-        if (descriptor_ >= 0) {
-            close(descriptor_);
-        }
-    }
-    OpenFile(const OpenFile &) = delete;
-    OpenFile &operator=(const OpenFile &) = delete;
-
-    int descriptor() const { return descriptor_; }
-
-private:
-    int descriptor_;
-};
-
 } // namespace
 
 bool isPlaylistName(const std::filesystem::path &path) {
@@ -206,14 +188,14 @@ std::vector<std::string> parsePlaylist(std::string_view text) {
 }
 
 Result<std::string> readPlaylist(const std::filesystem::path &path) {
-    const OpenFile file(path);
-    if (file.descriptor() < 0) {
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    if (!file.valid()) {
         return unreadable(errno);
     }
     std::string text;
     std::array<char, 65536> buffer{};
     for (;;) {
-        const ssize_t count = read(file.descriptor(), buffer.data(), buffer.size());
+        const ssize_t count = read(file.get(), buffer.data(), buffer.size());
         if (count < 0 && errno == EINTR) {
             continue;
         }

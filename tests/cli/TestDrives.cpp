@@ -78,6 +78,11 @@ TEST(DriveChoice, SeveralDrivesNeedAName) {
     EXPECT_EQ(std::get<std::string>(chooseDrive({"A", "B"}, "B")), "B");
 }
 
+TEST(DriveChoice, FolderWinsOverTheRecordersThatAreThere) {
+    const auto choice = chooseDrive({"A", "Disc image (x)"}, "", DriveKind::imageDrive);
+    EXPECT_EQ(std::get<std::string>(choice), "Disc image (x)");
+}
+
 TEST(DriveChoice, UnknownNameAndNoDriveAreFailures) {
     const auto unknown = chooseDrive({"A"}, "B");
     EXPECT_EQ(std::get<DriveProblem>(unknown).exitCode, ExitCode::failed);
