@@ -77,10 +77,17 @@ ResourceImage ResourceLocator::imageNamed(const QString &name) {
     return image(pathForResource(name, QStringLiteral("png")));
 }
 
-QIcon ResourceLocator::icon(const QStringList &names) {
+QIcon ResourceLocator::icon(const QString &name) {
+    static const QStringList variants = {QString(),
+                                         QStringLiteral("_16"),
+                                         QStringLiteral("_24"),
+                                         QStringLiteral("_32"),
+                                         QStringLiteral("_64"),
+                                         QStringLiteral("_128"),
+                                         QStringLiteral("_256")};
     QIcon icon;
-    for (const QString &name : names) {
-        const ResourceImage picture = imageNamed(name);
+    for (const QString &variant : variants) {
+        const ResourceImage picture = imageNamed(name + variant);
         for (const QImage &image : {picture.at1x, picture.at2x}) {
             if (!image.isNull()) {
                 icon.addPixmap(QPixmap::fromImage(image));

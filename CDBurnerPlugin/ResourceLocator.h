@@ -36,10 +36,9 @@ public:
     /// image(pathForResource(name, "png")).
     static ResourceImage imageNamed(const QString &name);
 
-    /// The picture as an icon with both its sizes; a null icon if it is missing. `names` may be
-    /// several sizes of the same picture.
-    static QIcon icon(const QStringList &names);
-    static QIcon icon(const QString &name) { return icon(QStringList(name)); }
+    /// The picture as an icon, with its drawings for other sizes where there are some ("name_16" is
+    /// 16 points wide). A null icon if it is missing.
+    static QIcon icon(const QString &name);
 
     /// The folder that all of this looks in.
     static QString folder();
