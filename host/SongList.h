@@ -26,7 +26,7 @@ inline constexpr const char *songListMimeType = "CrateSongItemType";
 
 /// Bounds of what decodeSongList takes from another process. The second one keeps data that is
 /// small on the wire (a song can be eight bytes) from becoming a gigabyte of objects.
-inline constexpr qsizetype maximumSongListBytes = 64 * 1024 * 1024;
+inline constexpr qsizetype maximumSongListBytes = qsizetype{64} * 1024 * 1024;
 inline constexpr qsizetype maximumSongListSongs = 1'000'000;
 
 /// The codec of that format: CBOR (RFC 8949), an array of maps with the keys "path" (byte string),
