@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "engine/ScorchError.h"
+#include "scorch/drive/Drive.h"
+#include "scorch/support/DiscContent.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace scorch {
+
+/// The errors of a burn, each with a text that says what happened, to what, and what can be done.
+/// Any thread.
+
+ScorchError nothingToBurnError();
+ScorchError tooManyTracksError(std::size_t tracks);
+ScorchError noDriveError(const std::string &name);
+ScorchError burnerCheckingError();
+ScorchError burnerBurningError();
+ScorchError driveBusyError(const std::string &name);
+ScorchError finishedBeforeStopError();
+ScorchError internalError(std::string detail);
+
+/// The disc is too small. Sectors; the text has playing times for sound and sizes for data.
+ScorchError doesNotFitError(TrackKind kind, std::int64_t needed, std::int64_t free);
+
+/// A song that is gone or cannot be opened, from what the system answered (an errno value).
+ScorchError sourceError(const std::filesystem::path &path, int error);
+
+/// What was read back is not what was sent. `name` is what a person calls the thing at that place;
+/// empty for the parts of a data disc between files.
+ScorchError differenceError(TrackKind kind, std::size_t track, std::int64_t sector,
+                            const std::string &name);
+
+/// Why the disc in a drive cannot be burned; nothing if it can.
+std::optional<ScorchError> discError(const std::string &driveName, const DriveState &state);
+
+} // namespace scorch
