@@ -3,8 +3,10 @@
 
 #include <taglib/audioproperties.h>
 #include <taglib/fileref.h>
+#include <taglib/infotag.h>
 #include <taglib/tag.h>
 #include <taglib/tpropertymap.h>
+#include <taglib/wavfile.h>
 
 #include <algorithm>
 #include <array>
@@ -36,8 +38,16 @@ int numberOf(const TagLib::PropertyMap &properties, const char *key) {
     return isThere ? std::max(0, found->second.front().toInt()) : 0;
 }
 
+/// The tag that says something: a WAV file may have two, of which FileRef knows one.
+const TagLib::Tag *tagOf(const TagLib::FileRef &file) {
+    const auto *wave = dynamic_cast<const TagLib::RIFF::WAV::File *>(file.file());
+    const bool hasOther = wave != nullptr && wave->InfoTag() != nullptr;
+    return hasOther && (file.tag() == nullptr || file.tag()->isEmpty()) ? wave->InfoTag()
+                                                                        : file.tag();
+}
+
 void readTags(LibrarySong &song, const TagLib::FileRef &file) {
-    const TagLib::Tag *tag = file.tag();
+    const TagLib::Tag *tag = tagOf(file);
     if (tag != nullptr) {
         song.title = textOf(tag->title());
         song.artist = textOf(tag->artist());
