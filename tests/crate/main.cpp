@@ -11,6 +11,10 @@ int main(int argc, char *argv[]) {
     qputenv("HOME", home.path().c_str());
     qputenv("XDG_CONFIG_HOME", (home.path() / "config").c_str());
     qunsetenv("XDG_MUSIC_DIR");
+    // Listing the tests needs no display either.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     testing::InitGoogleMock(&argc, argv);
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
