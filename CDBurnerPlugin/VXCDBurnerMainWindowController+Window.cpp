@@ -11,6 +11,7 @@
 #include "CDBurnerPlugin/MainWindow.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
 #include "CDBurnerPlugin/UsageEvents.h"
+#include "CDBurnerPlugin/VXHelpWindow.h"
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 #include "ui_MainWindow.h"
 
@@ -51,6 +52,7 @@ void VXCDBurnerMainWindowController::windowDidLoad() {
     _dragImageView->setDelegate(this);
     createDeleteButton();
     setUpTexts();
+    setUpLook();
     setUpActions();
 }
 
@@ -71,12 +73,14 @@ void VXCDBurnerMainWindowController::takeOutlets() {
     _txtRetainedCapacity = ui._txtRetainedCapacity;
     _capacityView = ui._capacityView;
     _txtDeviceName = ui._txtDeviceName;
+    _txtVolumeName = ui._txtVolumeName;
     _dragImageView = ui._dragImageView;
     _txtDragHere = ui._txtDragHere;
     _btnBurn = ui._btnBurn;
     _btnEject = ui._btnEject;
     _btnClear = ui._btnClear;
     _btnHelp = ui._btnHelp;
+    _helpWindow = new VXHelpWindow(_window);
     _progressWindow = new ProgressWindow(_window);
 }
 
@@ -132,10 +136,33 @@ void VXCDBurnerMainWindowController::setUpDrives(const std::vector<std::string> 
 
 void VXCDBurnerMainWindowController::setUpTexts() {
     _txtDeviceName->setText(localizedString("Disc &drive:"));
+    _txtVolumeName->setText(localizedString("Volume &name:"));
     _btnEject->setText(localizedString("&Eject"));
-    _btnEject->setToolTip(localizedString("Put the disc out of the drive"));
-    _cdTypePopup->setToolTip(localizedString("What kind of disc is made"));
+    _btnClear->setText(localizedString("C&lear"));
+    _btnBurn->setText(localizedString("&Burn"));
+    _btnEject->setToolTip(localizedString("Eject the disc from the drive"));
+    _btnClear->setToolTip(localizedString("Remove everything from the list"));
+    _btnBurn->setToolTip(localizedString("Burn the list to the disc"));
+    _cdTypePopup->setToolTip(localizedString("The type of disc to burn"));
     _cdTypePopup->setAccessibleName(localizedString("Disc type"));
+    _btnHelp->setToolTip(localizedString("Help"));
+    _btnHelp->setAccessibleName(localizedString("Help"));
+    _filesTableView->setAccessibleName(localizedString("Burn list"));
+    _capacityView->setAccessibleName(localizedString("Used capacity"));
+}
+
+void VXCDBurnerMainWindowController::setUpLook() {
+    _window->setWindowIcon(ResourceLocator::icon(QStringLiteral("icon_cd_burner")));
+    showTypeIcon();
+    // The caption lies over the list, which takes what is dropped on it.
+    _txtDragHere->setAttribute(Qt::WA_TransparentForMouseEvents);
+    _txtDragHere->raise();
+    _dragImageView->raise();
+    // The amounts change with every file: they take the room there is, whatever they read.
+    for (QLabel *const label : {_txtUsedCapacity, _txtRetainedCapacity}) {
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        label->setTextFormat(Qt::PlainText);
+    }
 }
 
 void VXCDBurnerMainWindowController::setUpActions() {
@@ -147,11 +174,14 @@ void VXCDBurnerMainWindowController::setUpActions() {
     onClick(_btnBurn, &Controller::burn);
     onClick(_btnEject, &Controller::eject);
     onClick(_btnClear, &Controller::clearlist);
-    onClick(_btnDelete, &Controller::btnDeleteDidClicked);
     onClick(_btnHelp, &Controller::btnHelpDidClicked);
+    onClick(_btnDelete, &Controller::btnDeleteDidClicked);
     // What the user chooses, and that alone: the popups are also changed from here.
     QObject::connect(_devicePopup, &QComboBox::activated, &_connections,
                      [this] { selectDevice(); });
     QObject::connect(_cdTypePopup, &QComboBox::activated, &_connections,
                      [this] { selectCDType(); });
+    // Return in the field is the window's default button, as in a dialog.
+    QObject::connect(_volumeName, &QLineEdit::returnPressed, &_connections,
+                     [this] { _btnBurn->click(); });
 }

@@ -154,6 +154,7 @@ private:
     void windowDidLoad();
     void takeOutlets();
     void setUpTexts();
+    void setUpLook();
     void setUpActions();
     void createDeleteButton();
     void startFirstEnumeration();
@@ -207,6 +208,7 @@ private:
     CapacityView *_capacityView = nullptr;
     VXHelpWindow *_helpWindow = nullptr;
     QLabel *_txtDeviceName = nullptr;
+    QLabel *_txtVolumeName = nullptr;
     VXDragImageView *_dragImageView = nullptr;
     QLabel *_txtDragHere = nullptr;
     DeleteButton *_btnDelete = nullptr;
