@@ -18,10 +18,11 @@ std::string restOf(const TextLine &line) {
 }
 
 bool parseFlag(std::string_view key, Faults &faults) {
-    const std::array<std::pair<std::string_view, bool *>, 5> flags = {
+    const std::array<std::pair<std::string_view, bool *>, 6> flags = {
         {{"power-calibration", &faults.powerCalibration},
          {"refuse-cd-text", &faults.refuseCdText},
          {"vanished", &faults.vanished},
+         {"no-device", &faults.noDevice},
          {"busy", &faults.busy},
          {"no-permission", &faults.noPermission}}};
     for (const auto &[name, flag] : flags) {

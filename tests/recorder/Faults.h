@@ -27,6 +27,7 @@ namespace recorder {
 ///     silent MS               the drive does not answer: each command times out, at the latest
 ///                             after MS milliseconds
 ///     vanished                unplugged: no device node, and ENODEV on open descriptors
+///     no-device               the same, but the node is still there: opening it gives ENXIO
 ///     busy                    another program holds it: EBUSY for whoever wants it exclusively
 ///     no-permission           EACCES
 ///     slow X                  moves X sectors a second
@@ -45,6 +46,7 @@ struct Faults {
     bool refuseCdText = false;
     std::optional<int> silentMs;
     bool vanished = false;
+    bool noDevice = false;
     bool busy = false;
     bool noPermission = false;
     int sectorsPerSecond = 0; ///< 0: at once.

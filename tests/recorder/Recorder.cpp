@@ -62,7 +62,7 @@ Answer Recorder::execute(ByteView cdb, ByteView sent) {
     }
     const DriveFolder::Lock lock(folder_);
     refresh();
-    if (faults_.vanished) {
+    if (faults_.vanished || faults_.noDevice) {
         return {{}, {}, Transport::NoDevice};
     }
     const Command command{cdb, sent};
