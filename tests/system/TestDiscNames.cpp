@@ -43,7 +43,7 @@ TEST_F(DiscNames, QuotesLeaveACueSheetThatIsRead) {
     const std::vector<std::string> names = burned("audio", "The \"Best\" of 'us'");
     ASSERT_THAT(names, SizeIs(2));
     const CommandResult info =
-        runCommand({"cd-info", "--no-cddb", "--no-device-info", "-C", image(names[1])});
+        runCommand({"cd-info", "--no-cddb", "--no-device-info", "--cue-file=" + image(names[1])});
     EXPECT_EQ(info.exitCode, 0) << info.output;
     EXPECT_THAT(info.output, HasSubstr("1: 00:02:00  000000 audio"));
 }
