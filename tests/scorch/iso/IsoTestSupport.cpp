@@ -7,6 +7,9 @@
 
 #include <fstream>
 #include <span>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace isotest {
 
@@ -81,9 +84,49 @@ void extract(const std::filesystem::path &image, const std::filesystem::path &to
     EXPECT_EQ(result.exitCode, 0) << result.output;
 }
 
+std::vector<Extent> extentsOf(const std::filesystem::path &image, const std::string &below) {
+    // "File data lba:  0 ,      217 ,        1 ,        5 , '/in/name'"
+    static const std::string mark = "File data lba:";
+    const CommandResult result = runCommand(
+        {"xorriso", "-indev", image.string(), "-find", below, "-type", "f", "-exec", "report_lba"});
+    std::vector<Extent> extents;
+    std::istringstream lines(result.output);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.compare(0, mark.size(), mark) != 0) {
+            continue;
+        }
+        std::istringstream fields(line.substr(mark.size()));
+        Extent extent;
+        int number = 0;
+        char comma = 0;
+        fields >> number >> comma >> extent.first >> comma >> extent.blocks >> comma >>
+            extent.bytes;
+        EXPECT_TRUE(fields.good()) << line;
+        extent.path = line.substr(line.find('\'') + 1);
+        extent.path.pop_back();
+        extents.push_back(std::move(extent));
+    }
+    return extents;
+}
+
 void expectSameTree(const std::filesystem::path &expected, const std::filesystem::path &actual) {
     const CommandResult result = runCommand({"diff", "-r", expected.string(), actual.string()});
     EXPECT_EQ(result.exitCode, 0) << result.output;
+}
+
+bool asOrdinaryUser(const std::function<bool()> &check) {
+    if (geteuid() != 0) {
+        return check();
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t nobody = 65534;
+        const bool dropped = setgid(nobody) == 0 && setuid(nobody) == 0;
+        _exit(dropped && check() ? 0 : 1);
+    }
+    int status = -1;
+    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) &&
+           WEXITSTATUS(status) == 0;
 }
 
 } // namespace isotest

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stop_token>
@@ -46,8 +47,23 @@ enum class Names { rockRidge, joliet };
 void extract(const std::filesystem::path &image, const std::filesystem::path &to,
              Names names = Names::rockRidge);
 
+/// Where a piece of a file's content lies in an image, as another program reads it.
+struct Extent {
+    std::string path; ///< With a leading slash.
+    std::int64_t first = 0;
+    std::int64_t blocks = 0;
+    std::uint64_t bytes = 0; ///< Of the whole file.
+};
+
+/// The extents of all files below a path of an image, in no particular order.
+std::vector<Extent> extentsOf(const std::filesystem::path &image, const std::string &below = "/");
+
 /// Whether two folders hold the same names with the same contents; reports each difference.
 void expectSameTree(const std::filesystem::path &expected, const std::filesystem::path &actual);
+
+/// Runs a check as somebody whom permissions bind: in a child of another user if this is root's
+/// process, else right here. The check must only read, and report by its answer alone.
+bool asOrdinaryUser(const std::function<bool()> &check);
 
 /// The error in an outcome that must be one, not a cancellation.
 template <class Value>
