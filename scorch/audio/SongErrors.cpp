@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/audio/SongErrors.h"
 
-#include "scorch/audio/Utf8.h"
 #include "scorch/support/Text.h"
+#include "scorch/support/Utf8.h"
 
 #include <utility>
 
@@ -10,7 +10,7 @@ namespace scorch {
 namespace {
 
 std::string nameOf(const std::filesystem::path &path) {
-    return toValidUtf8(path.filename().native());
+    return readableText(path.filename().native());
 }
 
 } // namespace

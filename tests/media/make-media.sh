@@ -81,7 +81,11 @@ encode "${wav[@]}" "${cover[@]}" -c:a aac "${tags[@]}" cover.m4a
 encode "${wav[@]}" -c:a libmp3lame -b:a 128k -metadata artist=試験楽団 -metadata title=二つの音 \
   -metadata album=日本語 japanese.mp3
 encode "${wav[@]}" -c:a flac -metadata artist=試験楽団 -metadata title=二つの音 japanese.flac
-encode "${wav[@]}" -c:a libmp3lame -b:a 128k -id3v2_version 0 -write_id3v1 1 "${tags[@]}" id3v1.mp3
+# The old tag at the end: fixed fields, in the encoding of whoever wrote it, here Latin-1.
+{
+  cat song-vbr-bare.mp3
+  printf 'TAG%-30s%-30s%-30s2001%-30s\x00' $'D\xe9j\xe0 vu' $'Les Fr\xe8res' Bench ''
+} >id3v1.mp3
 moving=(-f lavfi -i "testsrc=size=160x120:rate=10:duration=5")
 encode "${moving[@]}" "${wav[@]}" -c:v mpeg4 -c:a aac -shortest video.mp4
 encode "${moving[@]}" -c:v mpeg4 video-silent.mp4

@@ -33,7 +33,7 @@ SourceFailure systemFailure(int error) {
 } // namespace
 
 FileInput::FileInput(int descriptor, std::uint64_t sizeBytes, const std::stop_token &stop)
-    : descriptor_(descriptor), sizeBytes_(sizeBytes), stop_(stop) {
+    : descriptor_(descriptor), sizeBytes_(sizeBytes), stop_(stop), streamEnd_(sizeBytes) {
     auto *buffer = static_cast<unsigned char *>(av_malloc(streamBufferBytes));
     stream_.reset(
         avio_alloc_context(buffer, streamBufferBytes, 0, this, readStream, nullptr, seekStream));
@@ -94,8 +94,11 @@ int FileInput::readStream(void *self, std::uint8_t *buffer, int size) {
     if (input.stopRequested()) {
         return AVERROR_EXIT;
     }
-    const std::span target(reinterpret_cast<std::byte *>(buffer), static_cast<std::size_t>(size));
-    const std::size_t got = input.readAt(static_cast<std::uint64_t>(input.position_), target);
+    const auto from = static_cast<std::uint64_t>(input.position_);
+    const std::uint64_t left = input.streamEnd_ - std::min(from, input.streamEnd_);
+    const std::span target(reinterpret_cast<std::byte *>(buffer),
+                           std::min(static_cast<std::uint64_t>(size), left));
+    const std::size_t got = input.readAt(from, target);
     if (got == 0) {
         return input.systemError_ != 0 ? AVERROR(input.systemError_) : AVERROR_EOF;
     }
@@ -105,7 +108,7 @@ int FileInput::readStream(void *self, std::uint8_t *buffer, int size) {
 
 std::int64_t FileInput::seekStream(void *self, std::int64_t offset, int whence) {
     auto &input = *static_cast<FileInput *>(self);
-    const auto size = static_cast<std::int64_t>(input.sizeBytes_);
+    const auto size = static_cast<std::int64_t>(input.streamEnd_);
     switch (whence & ~AVSEEK_FORCE) {
     case AVSEEK_SIZE:
         return size;

@@ -4,10 +4,12 @@
 #include "scorch/audio/ffmpeg/AvHandles.h"
 #include "scorch/audio/ffmpeg/SourceFailure.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <stop_token>
 
@@ -44,6 +46,9 @@ public:
     /// What went wrong if this file, or a stop request, is to blame; nothing if neither is.
     std::optional<SourceFailure> failure() const;
 
+    /// Makes the library see a file that ends at `offset`.
+    void setStreamEnd(std::uint64_t offset) { streamEnd_ = std::min(offset, sizeBytes_); }
+
     /// The stream that the library reads, at its own position. Owned by this object.
     AVIOContext *stream() { return stream_.get(); }
 
@@ -57,6 +62,7 @@ private:
     const std::uint64_t sizeBytes_;
     std::stop_token stop_;
     int systemError_ = 0;
+    std::uint64_t streamEnd_;
     std::int64_t position_ = 0; ///< Of the library's stream.
     AvHandle<AVIOContext> stream_;
 };

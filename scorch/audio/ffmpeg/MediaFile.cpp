@@ -7,7 +7,9 @@
 #include "scorch/audio/ffmpeg/Protection.h"
 #include "scorch/support/Text.h"
 
+#include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 namespace scorch {
@@ -40,6 +42,19 @@ int refuseOtherFiles(AVFormatContext *, AVIOContext **, const char *, int, AVDic
 bool isComplete(const AVCodecParameters &parameters) {
     return parameters.codec_id != AV_CODEC_ID_NONE && parameters.sample_rate > 0 &&
            parameters.ch_layout.nb_channels > 0;
+}
+
+bool isFlac(FileInput &input) {
+    std::array<std::byte, 4> start{};
+    return input.readAt(id3v2Bytes(input, 0), start) == start.size() &&
+           bigEndian32(start.data()) == fourCharacters("fLaC");
+}
+
+/// Where Ogg files were joined, the headers of the next stand between packets of sound. A Vorbis
+/// decoder knows its own and takes them; an Opus decoder would take them for damage.
+bool isOpusHeader(const AVPacket &packet) {
+    return packet.size >= 8 && (std::memcmp(packet.data, "OpusHead", 8) == 0 ||
+                                std::memcmp(packet.data, "OpusTags", 8) == 0);
 }
 
 bool isSound(const AVStream *stream) {
@@ -90,6 +105,10 @@ std::optional<SourceFailure> MediaFile::openContainer(const std::filesystem::pat
     // Known beforehand, the format need not be guessed, which takes longest where a large picture
     // stands before the sound.
     mpegAudio_ = summariseMpegAudio(*input_);
+    if (isFlac(*input_)) {
+        // Tags of other formats behind the last frame would be taken for a part of it.
+        input_->setStreamEnd(endBeforeTags(*input_));
+    }
     const AVInputFormat *known = mpegAudio_ ? av_find_input_format("mp3") : nullptr;
 
     AVFormatContext *context = avformat_alloc_context();
@@ -202,7 +221,9 @@ int MediaFile::readPacket(AVPacket &packet) {
     }
     while (true) {
         const int code = av_read_frame(format_.get(), &packet);
-        if (code < 0 || packet.stream_index == stream_->index) {
+        const bool isHeader =
+            code >= 0 && parameters().codec_id == AV_CODEC_ID_OPUS && isOpusHeader(packet);
+        if (code < 0 || (packet.stream_index == stream_->index && !isHeader)) {
             return code;
         }
         av_packet_unref(&packet);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/audio/ffmpeg/SongTags.h"
 
-#include "scorch/audio/Utf8.h"
 #include "scorch/audio/ffmpeg/MediaFile.h"
+#include "scorch/audio/ffmpeg/TagText.h"
 
 #include <array>
 #include <initializer_list>
@@ -18,7 +18,7 @@ std::string tag(MediaFile &file, std::initializer_list<const char *> keys) {
         for (const AVDictionary *place : places) {
             const AVDictionaryEntry *entry = av_dict_get(place, key, nullptr, 0);
             if (entry != nullptr && *entry->value != '\0') {
-                return toValidUtf8(entry->value);
+                return tagText(entry->value);
             }
         }
     }

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/scorch/audio/Songs.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string testName(const testing::TestParamInfo<const char *> &info) {
+    std::string name = info.param;
+    for (char &character : name) {
+        character = std::isalnum(static_cast<unsigned char>(character)) != 0 ? character : '_';
+    }
+    return name;
+}
+
+// Whatever way the length was counted: a burn gets exactly that many samples.
+class AnySong : public testing::TestWithParam<const char *> {};
+
+TEST_P(AnySong, CountedLengthIsWhatDecodingDelivers) {
+    const std::uint64_t counted = accepted(song(GetParam())).samples;
+    EXPECT_GT(counted, 0U);
+    EXPECT_EQ(counted, samplesIn(decoded(song(GetParam()))));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SongLengths, AnySong,
+    testing::Values("song.wav", "song.flac", "song.aiff", "song.w64", "song.caf", "song.au",
+                    "song-alac.m4a", "song.wv", "song.tta", "song-flac.ogg", "song.mka",
+                    "tagged.flac", "song.mp3", "song-vbr.mp3", "song-vbr-bare.mp3",
+                    "song-cbr-bare.mp3", "song-mono.mp3", "song-22k.mp3", "song-48k.mp3",
+                    "song.ogg", "song.opus", "song.webm", "song.m4a", "song-22k.m4a", "song.aac",
+                    "song.wma", "song.mp2", "song.ac3", "song-48k24.wav", "song-48k24.flac",
+                    "song-96k24.flac", "song-44k24.flac", "song-float.wav", "song-8bit.wav",
+                    "song-8k.wav", "song-mono.wav", "song-mono.flac", "song-51.flac", "short.wav",
+                    "short.flac", "cover.mp3", "cover.flac", "cover.m4a", "japanese.mp3",
+                    "id3v1.mp3", "video.mp4", "truncated.mp3", "truncated.ogg"),
+    testName);
+
+class SongFromTheSource : public testing::TestWithParam<const char *> {};
+
+TEST_P(SongFromTheSource, HasTheSourcesLengthToTheSample) {
+    EXPECT_EQ(accepted(song(GetParam())).samples, songSamples);
+}
+
+// The lossless ones, and those that tell what their encoder added at both ends.
+INSTANTIATE_TEST_SUITE_P(SongLengths, SongFromTheSource,
+                         testing::Values("song.wav", "song.flac", "song.aiff", "song.caf",
+                                         "song.au", "song-alac.m4a", "song.wv", "song.tta",
+                                         "song-flac.ogg", "song.mka", "song-44k24.flac",
+                                         "song-float.wav", "song-8bit.wav", "song-mono.flac",
+                                         "song-51.flac", "song.mp3", "song-vbr.mp3",
+                                         "song-mono.mp3", "cover.mp3", "song.ogg", "song.m4a"),
+                         testName);
+
+class SongThatFfmpegDecodesAlike : public testing::TestWithParam<const char *> {};
+
+TEST_P(SongThatFfmpegDecodesAlike, HasAsManySamples) {
+    EXPECT_EQ(samplesIn(decoded(song(GetParam()))), samplesIn(decodedByFfmpeg(song(GetParam()))));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SongLengths, SongThatFfmpegDecodesAlike,
+    testing::Values("song.wav", "song.flac", "song.aiff", "song.caf", "song.au", "song-alac.m4a",
+                    "song.wv", "song.tta", "song-flac.ogg", "song.mka", "song.mp3", "song-vbr.mp3",
+                    "song-vbr-bare.mp3", "song-cbr-bare.mp3", "song-mono.mp3", "song-22k.mp3",
+                    "song-48k.mp3", "song.ogg", "song.opus", "song.webm", "song.aac", "song.wma",
+                    "song.mp2", "song.ac3", "song-44k24.flac", "song-float.wav", "song-8bit.wav",
+                    "song-8k.wav", "song-mono.wav", "song-51.flac", "song-96k24.flac"),
+    testName);
+
+// At its end a resampler may find a sample more or less than the quotient of the rates says; ours
+// is always the quotient, rounded up.
+TEST(SongLengths, ResampledLengthIsTheQuotientRoundedUp) {
+    EXPECT_EQ(accepted(song("song-48k24.flac")).samples, (songSamples * 44100 + 47999) / 48000);
+    EXPECT_EQ(accepted(song("song-96k24.flac")).samples, (songSamples * 44100 + 95999) / 96000);
+    EXPECT_NEAR(static_cast<double>(samplesIn(decodedByFfmpeg(song("song-48k24.flac")))),
+                static_cast<double>(accepted(song("song-48k24.flac")).samples), 1);
+}
+
+// An M4A says by the length of its last packet how much of it is the encoder's padding. The
+// program leaves it in: silence at every join of a live recording.
+TEST(SongLengths, PaddingOfAnM4aIsTakenOff) {
+    const std::vector<std::int16_t> ours = decoded(song("song.m4a"));
+    const std::vector<std::int16_t> whole = decodedByFfmpeg(song("song.m4a"));
+    EXPECT_EQ(samplesIn(ours), songSamples);
+    EXPECT_LT(samplesIn(whole) - samplesIn(ours), 1024U);
+}
+
+} // namespace
