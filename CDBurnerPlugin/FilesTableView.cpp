@@ -256,9 +256,6 @@ void FilesTableView::resizeEvent(QResizeEvent *event) {
 void FilesTableView::changeEvent(QEvent *event) {
     QTableView::changeEvent(event);
     switch (event->type()) {
-    case QEvent::ActivationChange:
-        hoverTracker_->activationChanged();
-        break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
         applyBackground();

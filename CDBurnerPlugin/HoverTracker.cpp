@@ -92,6 +92,13 @@ bool HoverTracker::eventFilter(QObject *watched, QEvent *event) {
     case QEvent::Leave:
         pointerLeft();
         break;
+    case QEvent::WindowActivate:
+    case QEvent::WindowDeactivate:
+        // The hover starts or ends without the pointer having moved.
+        if (watched == area_) {
+            activationChanged();
+        }
+        break;
     case QEvent::Hide:
         if (watched == area_) {
             end();

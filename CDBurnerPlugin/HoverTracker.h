@@ -27,16 +27,13 @@ public:
     bool isInside() const { return isInside_; }
     QPoint point() const;
 
-    /// To be called when the window has become active or ceased to be: the hover starts or ends
-    /// without the pointer having moved.
-    void activationChanged();
-
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void pointerAt(const QPoint &global);
     void pointerLeft();
+    void activationChanged();
     void end();
     void watchOverlay(QWidget *overlay);
     /// The widget of the same window that is visible at this place, if it is in the area.

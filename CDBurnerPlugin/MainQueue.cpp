@@ -128,11 +128,7 @@ void applicationDidStart() {
     QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit,
                      &applicationWillQuit);
     qAddPostRoutine(&applicationDidEnd);
-    std::deque<std::function<void()>> stale; // Came after the end of an application before this.
     const std::lock_guard lock(shared().mutex);
-    if (shared().ending) {
-        stale.swap(shared().tasks);
-    }
     shared().ending = false;
     shared().drainer = std::make_unique<Drainer>();
     if (!shared().tasks.empty()) {

@@ -14,9 +14,9 @@ class MainQueue {
 public:
     MainQueue() = delete;
 
-    /// Runs `task` later on the main thread, never inside this call. Any thread, also before the
-    /// application object exists (the tasks wait for it). The task is destroyed on the main thread,
-    /// so what it holds the last reference to dies there.
+    /// Runs `task` later on the main thread, never inside this call. Any thread, also while
+    /// there is no application object (the task waits for the next one). The task is destroyed on
+    /// the main thread, so what it holds the last reference to dies there.
     static void async(std::function<void()> task);
 
     /// Runs `task` on the main thread and returns when it has run: at once when called there, in

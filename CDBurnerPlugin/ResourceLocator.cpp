@@ -78,20 +78,18 @@ ResourceImage ResourceLocator::imageNamed(const QString &name) {
 }
 
 QIcon ResourceLocator::icon(const QString &name) {
-    static const QStringList variants = {QString(),
-                                         QStringLiteral("_16"),
-                                         QStringLiteral("_24"),
-                                         QStringLiteral("_32"),
-                                         QStringLiteral("_64"),
-                                         QStringLiteral("_128"),
-                                         QStringLiteral("_256")};
     QIcon icon;
-    for (const QString &variant : variants) {
-        const ResourceImage picture = imageNamed(name + variant);
-        for (const QImage &image : {picture.at1x, picture.at2x}) {
-            if (!image.isNull()) {
-                icon.addPixmap(QPixmap::fromImage(image));
-            }
+    const ResourceImage picture = imageNamed(name);
+    for (const QImage &image : {picture.at1x, picture.at2x}) {
+        if (!image.isNull()) {
+            icon.addPixmap(QPixmap::fromImage(image));
+        }
+    }
+    for (const int size : {16, 24, 32, 64, 128, 256}) {
+        const QString path =
+            pathForResource(name + u'_' + QString::number(size), QStringLiteral("png"));
+        if (!path.isEmpty()) {
+            icon.addFile(path, QSize(size, size)); // Read when it is asked for.
         }
     }
     return icon;

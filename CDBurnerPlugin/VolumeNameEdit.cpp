@@ -2,6 +2,7 @@
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 
 #include <QScopedValueRollback>
+#include <QSignalBlocker>
 #include <QValidator>
 
 #include <algorithm>
@@ -23,11 +24,11 @@ private:
 
 VolumeNameEdit::VolumeNameEdit(QWidget *parent) : QLineEdit(parent) {
     setValidator(new Vetting(this));
-    // All three are sent when an edit is over, so that `before_` still holds what was before it
+    // The text is reported when an edit is over, so that `before_` still holds what was before it
     // while it is vetted.
     connect(this, &QLineEdit::textChanged, this, &VolumeNameEdit::remember);
-    connect(this, &QLineEdit::selectionChanged, this, &VolumeNameEdit::remember);
-    connect(this, &QLineEdit::cursorPositionChanged, this, &VolumeNameEdit::remember);
+    connect(this, &QLineEdit::selectionChanged, this, &VolumeNameEdit::rememberSelection);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &VolumeNameEdit::rememberSelection);
     // For edits that no event of this field brings, such as a choice in its context menu.
     connect(this, &QLineEdit::inputRejected, this, &VolumeNameEdit::applyReplacement,
             Qt::QueuedConnection);
@@ -38,6 +39,14 @@ void VolumeNameEdit::setText(const QString &text) {
     replacement_.reset();
     const QScopedValueRollback guard(isSettingText_, true);
     QLineEdit::setText(text);
+    remember();
+}
+
+void VolumeNameEdit::rememberSelection() {
+    // What an input method commits moves the cursor before it is vetted.
+    if (text() == before_.text) {
+        remember();
+    }
 }
 
 void VolumeNameEdit::remember() {
@@ -82,6 +91,21 @@ void VolumeNameEdit::applyReplacement() {
     // As one edit of the text as it stands again, so that undo takes back what was put in.
     setSelection(static_cast<int>(wanted.start), static_cast<int>(wanted.end - wanted.start));
     if (wanted.start != wanted.end || !wanted.inserted.isEmpty()) {
+        separateUndo();
         insert(wanted.inserted);
+        separateUndo();
+    }
+}
+
+void VolumeNameEdit::separateUndo() {
+    // A line edit joins insertions into one step unless the cursor was moved between them.
+    const QSignalBlocker quiet(this);
+    const State here = {text(), hasSelectedText() ? selectionStart() : cursorPosition(),
+                        selectionLength()};
+    setCursorPosition(cursorPosition() > 0 ? 0 : static_cast<int>(here.text.size()));
+    if (here.selectionLength > 0) {
+        setSelection(static_cast<int>(here.selectionStart), static_cast<int>(here.selectionLength));
+    } else {
+        setCursorPosition(static_cast<int>(here.selectionStart));
     }
 }

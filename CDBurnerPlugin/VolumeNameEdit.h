@@ -43,6 +43,8 @@ private:
 
     bool vet(const QString &proposed, int cursor);
     void remember();
+    void rememberSelection();
+    void separateUndo();
     void applyReplacement();
 
     VXStringFormatter formatter_;

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "CDBurnerPlugin/ResourceLocator.h"
+#include "tests/CDBurnerPlugin/views/EventLoop.h"
+#include "tests/CDBurnerPlugin/views/TableRecorder.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTest>
+
+namespace {
+
+const QBrush white = QBrush(QColor(Qt::white));
+
+bool isPattern(const FilesTableView &table) {
+    return table.backgroundBrush().style() == Qt::TexturePattern;
+}
+
+TEST(TableLook, StartsWithThePatternAndAlternatingRowsOn) {
+    FilesTableView table;
+    table.awakeFromNib();
+    EXPECT_TRUE(isPattern(table));
+    EXPECT_TRUE(table.usesAlternatingRowBackgroundColors());
+}
+
+TEST(TableLook, TheFirstReloadWithoutRowsTurnsAlternatingOff) {
+    const TableFixture fixture;
+    EXPECT_TRUE(isPattern(fixture.table));
+    EXPECT_FALSE(fixture.table.usesAlternatingRowBackgroundColors());
+}
+
+TEST(TableLook, TheFirstReloadWithRowsKeepsThePatternUntilTheListWasEmpty) {
+    TableFixture fixture(1);
+    EXPECT_TRUE(isPattern(fixture.table));
+    EXPECT_TRUE(fixture.table.usesAlternatingRowBackgroundColors());
+    fixture.keep(0);
+    fixture.table.reloadData();
+    fixture.append(1);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.backgroundBrush(), white);
+}
+
+TEST(TableLook, RowsStandOnWhiteWithAlternatingRows) {
+    TableFixture fixture;
+    fixture.append(2);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.backgroundBrush(), white);
+    EXPECT_TRUE(fixture.table.usesAlternatingRowBackgroundColors());
+    fixture.keep(0);
+    fixture.table.reloadData();
+    EXPECT_TRUE(isPattern(fixture.table));
+    EXPECT_FALSE(fixture.table.usesAlternatingRowBackgroundColors());
+}
+
+TEST(TableLook, WithoutThePictureAnEmptiedListStaysWhite) {
+    if (ResourceLocator::loadCount(QStringLiteral("table_bgcolor.png")) > 0) {
+        GTEST_SKIP() << "needs a process in which no table was made before";
+    }
+    const TemporaryFolder empty;
+    ResourceLocator::setFolder(QString::fromStdString(empty.path().string()));
+    TableFixture fixture;
+    EXPECT_FALSE(isPattern(fixture.table));
+    EXPECT_FALSE(fixture.table.usesAlternatingRowBackgroundColors());
+    fixture.append(1);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.backgroundBrush(), white);
+    EXPECT_TRUE(fixture.table.usesAlternatingRowBackgroundColors());
+    fixture.keep(0);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.backgroundBrush(), white);
+    EXPECT_TRUE(fixture.table.usesAlternatingRowBackgroundColors());
+    ResourceLocator::setFolder({});
+}
+
+TEST(TableLook, ThePictureIsReadOnceForAllTables) {
+    FilesTableView first;
+    first.awakeFromNib();
+    FilesTableView second;
+    second.awakeFromNib();
+    EXPECT_TRUE(isPattern(second));
+    EXPECT_EQ(ResourceLocator::loadCount(QStringLiteral("table_bgcolor.png")), 1);
+}
+
+TEST(TableLook, TextIsDarkOnWhiteInADarkThemeToo) {
+    TableFixture fixture;
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::Text, QColor(0xee, 0xee, 0xee));
+    fixture.table.setPalette(dark);
+    EXPECT_LT(fixture.table.backgroundBrush().textureImage().pixelColor(0, 0).lightness(), 100);
+    fixture.append(2);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.backgroundBrush(), white);
+    const QPalette &shown = fixture.table.viewport()->palette();
+    EXPECT_LT(shown.color(QPalette::Text).lightness(), 60);
+    EXPECT_GT(shown.color(QPalette::AlternateBase).lightness(), 230);
+    EXPECT_EQ(fixture.table.palette().color(QPalette::Text), dark.color(QPalette::Text));
+}
+
+TEST(TableReload, KeepsSelectionAndScrollPositionOfRowsThatExist) {
+    TableFixture fixture;
+    fixture.append(100);
+    fixture.table.reloadData();
+    showActive(fixture.table);
+    fixture.table.selectRowIndexes({3, 50, 99});
+    fixture.table.verticalScrollBar()->setValue(400);
+    fixture.append(5);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.selectedRowIndexes(), (IndexSet{3, 50, 99}));
+    EXPECT_EQ(fixture.table.verticalScrollBar()->value(), 400);
+    fixture.keep(60);
+    fixture.table.reloadData();
+    EXPECT_EQ(fixture.table.selectedRowIndexes(), (IndexSet{3, 50}));
+    EXPECT_EQ(fixture.table.verticalScrollBar()->value(), 400);
+}
+
+TEST(TableReload, CostsTheSameForAnyNumberOfRows) {
+    TableFixture fixture;
+    showActive(fixture.table);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 10000; ++i) {
+        fixture.append(1);
+        fixture.table.reloadData();
+    }
+    // A tenth of this on a quiet machine; what would grow with the rows takes many seconds.
+    EXPECT_LT(timer.elapsed(), 3000);
+    EXPECT_EQ(fixture.table.filesModel()->rowCount(), 10000);
+}
+
+TEST(TableSelection, IsReplacedAndStaysWithinTheList) {
+    TableFixture fixture;
+    fixture.append(4);
+    fixture.table.reloadData();
+    fixture.table.selectRowIndexes({0, 1});
+    fixture.table.selectRowIndexes({-1, 2, 3, 4, 900});
+    EXPECT_EQ(fixture.table.selectedRowIndexes(), (IndexSet{2, 3}));
+    fixture.table.selectRowIndexes({7});
+    EXPECT_TRUE(fixture.table.selectedRowIndexes().empty());
+}
+
+TEST(TableRows, HaveAPlaceOverTheWholeWidth) {
+    TableFixture fixture;
+    fixture.append(3);
+    fixture.table.reloadData();
+    showActive(fixture.table);
+    const QRect row = fixture.table.rectOfRow(1);
+    EXPECT_EQ(row.width(), fixture.table.viewport()->width());
+    EXPECT_EQ(row.y(), row.height());
+    EXPECT_GE(row.height(), FilesTableView::deleteButtonSize);
+    EXPECT_EQ(fixture.table.rowAtPoint(row.center()), 1);
+    EXPECT_EQ(fixture.table.rectOfRow(3), QRect(0, 0, 0, 0));
+    EXPECT_EQ(fixture.table.rectOfRow(-1), QRect(0, 0, 0, 0));
+}
+
+class DeleteKey : public testing::TestWithParam<Qt::Key> {};
+
+TEST_P(DeleteKey, AsksToDeleteTheSelection) {
+    TableFixture fixture;
+    fixture.append(5);
+    fixture.table.reloadData();
+    fixture.table.selectRowIndexes({1, 3});
+    QTest::keyClick(&fixture.table, GetParam());
+    EXPECT_EQ(fixture.recorder.deleted, std::vector({IndexSet{1, 3}}));
+}
+
+TEST_P(DeleteKey, AsksWithAnEmptySelectionToo) {
+    TableFixture fixture;
+    fixture.append(5);
+    fixture.table.reloadData();
+    QTest::keyClick(&fixture.table, GetParam());
+    EXPECT_EQ(fixture.recorder.deleted, std::vector({IndexSet{}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, DeleteKey, testing::Values(Qt::Key_Delete, Qt::Key_Backspace));
+
+TEST(TableKeys, CtrlASelectsAllRows) {
+    TableFixture fixture;
+    fixture.append(3);
+    fixture.table.reloadData();
+    QTest::keyClick(&fixture.table, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(fixture.table.selectedRowIndexes(), (IndexSet{0, 1, 2}));
+}
+
+TEST(TableKeys, AltArrowsMoveTheSelectedRows) {
+    TableFixture fixture;
+    fixture.append(5);
+    fixture.table.reloadData();
+    fixture.table.selectRowIndexes({1, 2});
+    QTest::keyClick(&fixture.table, Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(&fixture.table, Qt::Key_Up, Qt::AltModifier);
+    using Move = std::pair<IndexSet, qint64>;
+    EXPECT_EQ(fixture.recorder.moved, (std::vector<Move>{{{1, 2}, 4}, {{1, 2}, 0}}));
+}
+
+TEST(KeyboardMove, GoesOnePlaceOn) {
+    EXPECT_EQ(keyboardMoveDestination({2}, 5, true), 1);
+    EXPECT_EQ(keyboardMoveDestination({2}, 5, false), 4);
+    EXPECT_EQ(keyboardMoveDestination({3}, 5, false), 5);
+}
+
+TEST(KeyboardMove, StopsAtTheEnds) {
+    EXPECT_EQ(keyboardMoveDestination({0, 1}, 5, true), std::nullopt);
+    EXPECT_EQ(keyboardMoveDestination({3, 4}, 5, false), std::nullopt);
+    EXPECT_EQ(keyboardMoveDestination({}, 5, true), std::nullopt);
+}
+
+TEST(KeyboardMove, GathersRowsThatDoNotStandTogether) {
+    EXPECT_EQ(keyboardMoveDestination({0, 2}, 5, true), 0);
+    EXPECT_EQ(keyboardMoveDestination({2, 4}, 5, false), 5);
+}
+
+} // namespace
