@@ -25,6 +25,16 @@ namespace {
 
 constexpr int deleteButtonSize = 18; // Until it is placed over a row for the first time.
 
+/// Has the global pool not count this thread of it while it waits: Qt paints large areas with the
+/// pool's help, and with all its threads waiting for the main thread both would wait for ever.
+class ThreadOutOfPool {
+public:
+    ThreadOutOfPool() { QThreadPool::globalInstance()->releaseThread(); }
+    ~ThreadOutOfPool() { QThreadPool::globalInstance()->reserveThread(); }
+    ThreadOutOfPool(const ThreadOutOfPool &) = delete;
+    ThreadOutOfPool &operator=(const ThreadOutOfPool &) = delete;
+};
+
 } // namespace
 
 MainWindow *VXCDBurnerMainWindowController::window() {
@@ -100,6 +110,7 @@ void VXCDBurnerMainWindowController::startFirstEnumeration() {
     // that keeps it never leaves the main thread, so that the worker cannot hold the last one.
     _keptForEnumeration = shared_from_this();
     QThreadPool::globalInstance()->start([controller = weak_from_this()] {
+        const ThreadOutOfPool waiting;
         const std::vector<std::string> names = ScorcherDevice::devices();
         MainQueue::sync([&controller, &names] {
             if (const auto self = controller.lock()) {
