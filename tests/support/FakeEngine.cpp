@@ -223,14 +223,21 @@ int FakeEngine::searchCountElsewhere() const {
     return searchesElsewhere_;
 }
 
+int FakeEngine::finishedSearchCount() const {
+    const std::lock_guard lock(mutex_);
+    return finishedSearches_;
+}
+
 std::vector<std::string> FakeEngine::search() {
     std::unique_lock lock(mutex_);
-    ++(std::this_thread::get_id() == home_ ? searchesHere_ : searchesElsewhere_);
+    const bool isHere = std::this_thread::get_id() == home_;
+    ++(isHere ? searchesHere_ : searchesElsewhere_);
     released_.wait(lock, [this] { return !isHeld_; });
     std::vector<std::string> names;
     for (const FakeDrive &drive : drives) {
         names.push_back(drive.name);
     }
+    finishedSearches_ += isHere ? 0 : 1;
     return names;
 }
 

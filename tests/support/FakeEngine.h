@@ -115,6 +115,8 @@ public:
     /// How often devices() was called on the thread that made this object, and on others.
     int searchCountHere() const;
     int searchCountElsewhere() const;
+    /// How many calls of devices() elsewhere have come to their end.
+    int finishedSearchCount() const;
 
     /// The delegate that was set last on any handle: where drives that come and go are reported.
     ScorcherDeviceDelegate *deviceDelegate() const { return deviceDelegate_.get(); }
@@ -144,4 +146,5 @@ private:
     bool isHeld_ = false;
     int searchesHere_ = 0;
     int searchesElsewhere_ = 0;
+    int finishedSearches_ = 0;
 };

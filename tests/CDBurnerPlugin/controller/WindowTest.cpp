@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/CDBurnerPlugin/controller/ControllerTest.h"
+
+#include "CDBurnerPlugin/VXDragImageView.h"
+#include "CDBurnerPlugin/VXHelpWindow.h"
+
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QMimeData>
+#include <QToolButton>
+
+class Window : public ControllerTest {};
+
+TEST_F(Window, EveryControlHasANameForScreenReaders) {
+    openWithSongs(1);
+    const QSet<QString> labelled = {QStringLiteral("_devicePopup"), QStringLiteral("_volumeName")};
+    for (const auto *widget : controller->window()->findChildren<QWidget *>()) {
+        const bool isControl = widget->focusPolicy() != Qt::NoFocus &&
+                               widget->objectName().startsWith(QLatin1Char('_'));
+        if (isControl && !labelled.contains(widget->objectName())) {
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            const QString name = button != nullptr && widget->accessibleName().isEmpty()
+                                     ? button->text()
+                                     : widget->accessibleName();
+            EXPECT_GT(name.size(), 1) << widget->objectName().toStdString();
+        }
+    }
+    EXPECT_EQ(find<QLabel>("_txtDeviceName")->buddy(), devicePopup());
+    EXPECT_EQ(find<QLabel>("_txtVolumeName")->buddy(), volumeName());
+}
+
+TEST_F(Window, MnemonicsAreDistinct) {
+    openWithSongs(1);
+    QSet<QChar> seen;
+    for (const char *name : {"_txtDeviceName", "_txtVolumeName"}) {
+        const QString text = find<QLabel>(name)->text();
+        seen.insert(text.at(text.indexOf(QLatin1Char('&')) + 1).toLower());
+    }
+    for (const char *name : {"_btnEject", "_btnClear", "_btnBurn"}) {
+        const QString text = find<QPushButton>(name)->text();
+        seen.insert(text.at(text.indexOf(QLatin1Char('&')) + 1).toLower());
+    }
+    EXPECT_EQ(seen.size(), 5);
+}
+
+TEST_F(Window, CannotBeMadeTooSmallForItsContent) {
+    openWithSongs(1);
+    MainWindow *const window = controller->window();
+    window->resize(1, 1);
+    EXPECT_GE(window->width(), window->minimumSizeHint().width());
+    EXPECT_GE(burnButton()->width(), burnButton()->minimumSizeHint().width());
+    EXPECT_TRUE(window->rect().contains(
+        QRect(burnButton()->mapTo(window, QPoint()), burnButton()->size())));
+}
+
+TEST_F(Window, PictureTakesDropsEvenWhileTheSheetIsUp) {
+    open();
+    startBurn();
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), "file:///m/a\r\n");
+    EXPECT_TRUE(find<VXDragImageView>("_dragImageView")->performDragOperation(data));
+    EXPECT_EQ(engine.audio().addedFiles.size(), 1U);
+}
+
+TEST_F(Window, CaptionLetsDropsThroughToTheList) {
+    open();
+    const auto *const caption = find<QLabel>("_txtDragHere");
+    const QPoint middle = caption->mapTo(controller->window(), caption->rect().center());
+    EXPECT_EQ(controller->window()->childAt(middle), table()->viewport());
+}
+
+TEST_F(Window, HelpButtonIsThereWithAndWithoutADisc) {
+    openWithBlankDisc();
+    const auto *const help = find<QToolButton>("_btnHelp");
+    EXPECT_TRUE(help->isVisible());
+    engine.removeDrive("Drive");
+    controller->deviceStatusDidChanged();
+    EXPECT_FALSE(showsVolumeName());
+    EXPECT_TRUE(help->isVisible());
+}
+
+TEST_F(Window, HelpBubbleStandsBesideTheBox) {
+    openWithBlankDisc();
+    controller->window()->move(100, 100);
+    find<QToolButton>("_btnHelp")->click();
+    auto *const bubble = controller->window()->findChild<VXHelpWindow *>();
+    ASSERT_TRUE(bubble->isOpen());
+    const QFrame *const box = find<QFrame>("_discSetBox");
+    const QToolButton *const help = find<QToolButton>("_btnHelp");
+    const QPoint below = help->mapToGlobal(QPoint(0, help->height()));
+    const QPoint beside = box->mapToGlobal(QPoint(box->width() + 34 - bubble->width(), 0));
+    const QPoint wanted(beside.x(), below.y());
+    // Kept on the screen as a whole.
+    const QRect screen = bubble->screen()->availableGeometry();
+    EXPECT_EQ(bubble->x(), std::min(wanted.x(), screen.right() + 1 - bubble->width()));
+    EXPECT_EQ(bubble->y(), std::min(wanted.y(), screen.bottom() + 1 - bubble->height()));
+    bubble->endFakeMenu();
+}
+
+TEST_F(Window, TenThousandAcceptedFilesKeepTheMainLoopFree) {
+    openWithBlankDisc();
+    constexpr int count = 10000;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (int number = 0; number < count; ++number) {
+        engine.audio().append("Song", 75);
+        engine.audio().delegate()->fileDidAdded(nullptr);
+    }
+    drainMainQueue();
+    EXPECT_EQ(rowCount(), count);
+    // Half a second on a machine that does nothing else; the limit is for one that is busy.
+    EXPECT_LT(elapsed.elapsed(), 5000);
+    RecordProperty("milliseconds", static_cast<int>(elapsed.elapsed()));
+}
