@@ -123,19 +123,24 @@ TEST_F(AudioImages, LossySongsSoundAsTheyDecode) {
     }
 }
 
-TEST_F(AudioImages, OpusSongsOfAnyLengthAreWhole) {
+TEST_F(AudioImages, OggSongsOfAnyLengthAreWhole) {
+    // More or less of the last packet is padding, and its blocks are long or short.
     std::vector<std::string> songs;
-    for (const int samples : {200'000, 200'100, 200'300, 200'500, 200'700, 200'900}) {
-        const std::string song = folder / (std::to_string(samples) + ".opus");
-        const std::string filter = "atrim=end_sample=" + std::to_string(samples);
-        const CommandResult made =
-            runCommand({"ffmpeg", "-nostdin", "-loglevel", "error", "-f", "lavfi", "-i",
-                        "sine=r=48000:d=5", "-af", filter, "-c:a", "libopus", song});
-        ASSERT_EQ(made.exitCode, 0) << made.output;
-        songs.push_back(song);
+    for (const char *codec : {"libopus", "libvorbis"}) {
+        for (int i = 0; i < 8; ++i) {
+            const std::string number = std::to_string(i);
+            const std::string song = folder / (codec + number + ".ogg");
+            const std::string filter = "atrim=end_sample=" + std::to_string(200'000 + 137 * i);
+            const CommandResult made =
+                runCommand({"ffmpeg", "-nostdin", "-loglevel", "error", "-f", "lavfi", "-i",
+                            "anoisesrc=r=48000:d=5:a=0.4:s=" + number + ",tremolo=f=7:d=0.9", "-af",
+                            filter, "-ac", "2", "-c:a", codec, song});
+            ASSERT_EQ(made.exitCode, 0) << made.output;
+            songs.push_back(song);
+        }
     }
-    burn("audio", "Opus", songs);
-    const std::vector<std::string> tracks = tracksOf("Opus", songs.size());
+    burn("audio", "Ogg", songs);
+    const std::vector<std::string> tracks = tracksOf("Ogg", songs.size());
     for (std::size_t i = 0; i < songs.size(); ++i) {
         EXPECT_EQ(tracks[i].size(), paddedBytes(decoded(songs[i]).size())) << songs[i];
     }

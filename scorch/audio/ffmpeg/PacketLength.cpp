@@ -6,30 +6,6 @@
 #include <algorithm>
 
 namespace scorch {
-namespace {
-
-/// The samples at 48 kHz that an Opus packet decodes to, by its first bytes (RFC 6716, 3.1 and
-/// 3.2); 0 for what is none.
-std::int64_t opusSamples(const AVPacket &packet) {
-    if (packet.size < 1) {
-        return 0;
-    }
-    static constexpr std::int64_t millisecond = 48;
-    const unsigned mode = packet.data[0] >> 3U;
-    const unsigned frames = packet.data[0] & 3U;
-    std::int64_t frame = (millisecond * 5 / 2) << (mode & 3U); // 2.5, 5, 10 or 20 ms
-    if (mode < 12) {
-        frame = (mode & 3U) == 3 ? 60 * millisecond : (10 * millisecond) << (mode & 3U);
-    } else if (mode < 16) {
-        frame = (10 * millisecond) << (mode & 1U);
-    }
-    if (frames < 3) {
-        return frames == 0 ? frame : 2 * frame;
-    }
-    return packet.size < 2 ? 0 : frame * (packet.data[1] & 63U);
-}
-
-} // namespace
 
 void PacketLength::setSampleRate(std::uint32_t rate) {
     rate_ = rate;
@@ -48,7 +24,9 @@ void PacketLength::add(const AVPacket &packet) {
     if (marks != nullptr && bytes >= 8) {
         const auto *at = reinterpret_cast<const std::byte *>(marks);
         piece.skip = static_cast<std::int32_t>(littleEndian32(at));
-        piece.discard = static_cast<std::int32_t>(littleEndian32(at + 4));
+        if (padding_ == PaddingIn::duration) {
+            piece.discard = static_cast<std::int32_t>(littleEndian32(at + 4));
+        }
     }
     const bool jumps =
         packet.pts != AV_NOPTS_VALUE && nextTime_ != AV_NOPTS_VALUE && packet.pts != nextTime_;
@@ -64,7 +42,7 @@ void PacketLength::add(const AVPacket &packet) {
     }
 }
 
-/// In the time base. Some packets do not decode to the time that they last.
+/// In the time base. Two kinds of packets do not decode to the time that they last.
 std::int64_t PacketLength::durationOf(const AVPacket &packet) {
     const bool isFirst = firstDuration_ == 0;
     if (isFirst) {
@@ -75,11 +53,6 @@ std::int64_t PacketLength::durationOf(const AVPacket &packet) {
     }
     if (codec_ == AV_CODEC_ID_AAC) {
         return firstDuration_; // The last one may be marked shorter, but is a whole frame.
-    }
-    if (codec_ == AV_CODEC_ID_OPUS) {
-        // The last one may last only until its padding, which is marked to be dropped besides.
-        const std::int64_t duration = av_rescale_q(opusSamples(packet), {1, 48000}, timeBase_);
-        return duration > 0 ? duration : packet.duration;
     }
     return packet.duration;
 }

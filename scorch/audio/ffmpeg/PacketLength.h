@@ -13,13 +13,20 @@ constexpr bool isRawSound(AVCodecID codec) {
     return codec >= AV_CODEC_ID_PCM_S16LE && codec < AV_CODEC_ID_ADPCM_IMA_QT;
 }
 
+/// What the duration of a last packet tells of the padding that it is marked to lose.
+enum class PaddingIn {
+    duration,   ///< The padding is part of it, and still to be taken off.
+    markingOnly ///< The duration ends where the padding starts, as Ogg's does.
+};
+
 /// Adds up how many samples packets decode to, with the marks on them that make a decoder drop
 /// some. Says so when the packets do not tell for certain: a duration is missing or is no whole
 /// number of samples, a packet is damaged, or time jumps, as where one stream was joined to
 /// another.
 class PacketLength {
 public:
-    PacketLength(AVRational timeBase, AVCodecID codec) : timeBase_(timeBase), codec_(codec) {}
+    PacketLength(AVRational timeBase, AVCodecID codec, PaddingIn padding)
+        : timeBase_(timeBase), codec_(codec), padding_(padding) {}
 
     /// The rate of the decoded samples. Packets added before are counted once it is known.
     void setSampleRate(std::uint32_t rate);
@@ -42,6 +49,7 @@ private:
 
     AVRational timeBase_;
     AVCodecID codec_;
+    PaddingIn padding_;
     std::int64_t firstDuration_ = 0; ///< 0 before the first packet.
     std::int64_t rate_ = 0;
     bool isCertain_ = true;
