@@ -2,6 +2,7 @@
 // How the window is built and its controls are wired.
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 
+#include "CDBurnerPlugin/BlockedCloseRequest.h"
 #include "CDBurnerPlugin/CapacityView.h"
 #include "CDBurnerPlugin/DeleteButton.h"
 #include "CDBurnerPlugin/DropFileList.h"
@@ -57,6 +58,7 @@ void VXCDBurnerMainWindowController::windowDidLoad() {
                                               QLatin1String(FilesTableView::rowsMimeType)});
     _filesTableView->setDelegate(this);
     _progressWindow->setMyDelegate(this);
+    _blockedCloseRequest = std::make_unique<BlockedCloseRequest>(_window, _progressWindow);
     _txtDragHere->setText(localizedString("Drag music files here"));
     _dragImageView->awakeFromNib();
     _dragImageView->setDelegate(this);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 
+#include "CDBurnerPlugin/BlockedCloseRequest.h"
 #include "CDBurnerPlugin/DeleteButton.h"
 #include "CDBurnerPlugin/FilesTableModel.h"
 #include "CDBurnerPlugin/Localization.h"

@@ -19,6 +19,7 @@
 #include <string>
 #include <vector>
 
+class BlockedCloseRequest;
 class CapacityView;
 class DeleteButton;
 class ErrorTipsView;
@@ -220,6 +221,7 @@ private:
     VXCDBurner *_delegate = nullptr;
 
     QPointer<MainWindow> _window;
+    std::unique_ptr<BlockedCloseRequest> _blockedCloseRequest;
     QObject _connections; // The controls' connections end with it.
     std::shared_ptr<VXCDBurnerMainWindowController> _keptForEnumeration;
     bool _devicesAreKnown = false;
