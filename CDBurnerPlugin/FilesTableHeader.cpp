@@ -13,18 +13,19 @@ FilesTableHeader::FilesTableHeader(int roomAtEnd, QWidget *parent)
 }
 
 void FilesTableHeader::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const {
-    if (logicalIndex != count() - 1) {
-        QHeaderView::paintSection(painter, rect, logicalIndex);
-        return;
-    }
     QStyleOptionHeaderV2 option;
     initStyleOption(&option);
     initStyleOptionForIndex(&option, logicalIndex);
     option.rect = rect;
     painter->save();
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+    // A cell has this margin on both sides of its text and of the room beside it.
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    const bool isLast = logicalIndex == count() - 1;
+    const int start = isLast ? 0 : 3 * margin + 1;
+    const int end = isLast ? roomAtEnd_ + 3 * margin : 0;
     option.rect =
-        isRightToLeft() ? rect.adjusted(roomAtEnd_, 0, 0, 0) : rect.adjusted(0, 0, -roomAtEnd_, 0);
+        isRightToLeft() ? rect.adjusted(end, 0, -start, 0) : rect.adjusted(start, 0, -end, 0);
     style()->drawControl(QStyle::CE_HeaderLabel, &option, painter, this);
     painter->restore();
 }

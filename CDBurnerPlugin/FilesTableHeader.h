@@ -3,8 +3,8 @@
 
 #include <QHeaderView>
 
-/// The burn list's header. The title of the last column ends where the column's texts end: before
-/// the room that each row keeps for its delete button.
+/// The burn list's header. Its titles start and end where the columns' texts do: a little off the
+/// edge, and before the room that each row keeps for its delete button.
 class FilesTableHeader : public QHeaderView {
     Q_OBJECT
 

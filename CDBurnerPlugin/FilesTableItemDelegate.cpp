@@ -8,10 +8,9 @@ void FilesTableItemDelegate::initStyleOption(QStyleOptionViewItem *option,
     QStyledItemDelegate::initStyleOption(option, index);
     // Whole rows are selected: a frame around one cell of them would say something else.
     option->state.setFlag(QStyle::State_HasFocus, false);
-    if (index.column() == FilesTableModel::fileinfo) {
-        // A picture that is empty takes its room and draws nothing, in every style.
-        option->features |= QStyleOptionViewItem::HasDecoration;
-        option->decorationPosition = QStyleOptionViewItem::Right;
-        option->decorationSize = QSize(roomAtEnd_, 1);
-    }
+    // A picture that is empty takes its room and draws nothing, in every style.
+    const bool isLast = index.column() == FilesTableModel::fileinfo;
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationPosition = isLast ? QStyleOptionViewItem::Right : QStyleOptionViewItem::Left;
+    option->decorationSize = QSize(isLast ? roomAtEnd_ : 1, 1);
 }

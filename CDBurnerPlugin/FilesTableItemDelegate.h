@@ -3,8 +3,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Draws the burn list's cells. The last column keeps room at its end for the delete button, which
-/// would cover its text otherwise.
+/// Draws the burn list's cells. The first column starts a little off the edge; the last one keeps
+/// room at its end for the delete button, which would cover its text otherwise.
 class FilesTableItemDelegate : public QStyledItemDelegate {
     Q_OBJECT
 

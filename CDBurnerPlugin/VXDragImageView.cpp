@@ -8,6 +8,8 @@
 #include <QMimeData>
 #include <QPainter>
 
+#include <cmath>
+
 namespace {
 
 constexpr QSize fallbackSize(128, 128);
@@ -53,8 +55,8 @@ void VXDragImageView::drawRect(QPainter &painter, double scale) const {
         const QImage &pixels = image_.forRatio(scale);
         QRectF target(QPointF(), pixels.deviceIndependentSize());
         // On whole points, or the picture would be blurred.
-        target.moveTopLeft(QPointF((width() - static_cast<int>(target.width())) / 2,
-                                   (height() - static_cast<int>(target.height())) / 2));
+        target.moveTopLeft(QPointF(std::floor((width() - target.width()) / 2),
+                                   std::floor((height() - target.height()) / 2)));
         painter.drawImage(target, pixels);
     }
 }
