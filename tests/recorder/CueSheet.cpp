@@ -189,9 +189,13 @@ bool CueSheet::isComplete(const Disc &disc) const {
     if (!hasLeadOut_ || (!catalog_.empty() && catalog_.size() != 13)) {
         return false;
     }
-    for (const Track &track : session_.tracks) {
+    for (std::size_t index = 0; index < session_.tracks.size(); ++index) {
+        const Track &track = session_.tracks[index];
+        const bool isLast = index + 1 == session_.tracks.size();
+        // The pregap of the next track counts as a part of this one.
+        const Lba end = isLast ? track.end : session_.tracks[index + 1].start;
         if ((!track.isrc.empty() && track.isrc.size() != 12) ||
-            track.end - track.start < kShortestTrack) {
+            end - track.start < kShortestTrack) {
             return false;
         }
     }

@@ -18,6 +18,9 @@ namespace recorder {
 
 namespace {
 
+/// Parameter lists stand in the log, sectors do not.
+constexpr std::size_t kLoggedBytes = 256;
+
 template <std::size_t Size>
 bool isNewOrder(const std::optional<std::string> &order, std::array<char, Size> &kept) {
     const std::string_view wanted = order ? std::string_view(*order) : std::string_view();
@@ -233,11 +236,18 @@ void Recorder::log(const Command &command, const Answer &answer) const {
         appendHexByte(line, byte);
     }
     line += " out " + std::to_string(command.sent.size());
+    if (command.sent.size() <= kLoggedBytes && !command.sent.empty()) {
+        line += ':';
+        for (const Byte byte : command.sent) {
+            line += ' ';
+            appendHexByte(line, byte);
+        }
+    }
     line += " in " + std::to_string(answer.data.size());
     if (answer.transport != Transport::Delivered) {
         line += " not answered";
     } else if (answer.sense) {
-        line += " sense ";
+        line += " sense";
         for (const Byte byte : {answer.sense->key, answer.sense->code, answer.sense->qualifier}) {
             line += ' ';
             appendHexByte(line, byte);

@@ -21,6 +21,9 @@ std::optional<WriteParameters> parse(ByteView page) {
     parameters.isTest = (get8(page, 2) & 0x10U) != 0;
     parameters.allowsNextSession = get8(page, 3) >> 6U == 3;
     parameters.control = low8(get8(page, 3) & 15U);
+    if (parameters.mode == WriteMode::SessionAtOnce) {
+        return parameters; // The cue sheet says what the blocks are.
+    }
     switch (get8(page, 4) & 15U) {
     case 0: // 2352 bytes, of sound.
         parameters.form = SectorForm::Audio;

@@ -13,9 +13,9 @@ struct WriteParameters {
     bool isTest = false;
     bool isUnderrunFree = false;
     bool allowsNextSession = false;
-    Byte control = kControlData; ///< "Track mode".
-    SectorForm form = SectorForm::Mode1;
-    std::size_t blockBytes = kUserDataBytes; ///< What the host sends for a block.
+    Byte control = kControlData;             ///< "Track mode".
+    SectorForm form = SectorForm::Mode1;     ///< Of a track at once.
+    std::size_t blockBytes = kUserDataBytes; ///< What the host sends for its blocks.
 };
 
 Bytes defaultWritePage();
@@ -26,7 +26,8 @@ Bytes changeableWritePage();
 WriteParameters writeParameters(const DriveMemory &memory);
 
 /// Keeps a page that a host sent. False, and nothing kept, for a way of writing that the drive does
-/// not have: packets, raw, or a block type other than 2352 bytes of sound and 2048 or 2336 of data.
+/// not have: packets, raw, or track at once with a block type other than 2352 bytes of sound and
+/// 2048 or 2336 of data.
 bool acceptWritePage(DriveMemory &memory, ByteView page);
 
 } // namespace recorder

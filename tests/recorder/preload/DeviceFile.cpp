@@ -4,6 +4,8 @@
 #include "tests/recorder/preload/KernelDriver.h"
 #include "tests/recorder/preload/RealCalls.h"
 
+#include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
@@ -55,8 +57,30 @@ int seekStream(void *cookie, off64_t *offset, int whence) {
     return *offset < 0 ? -1 : 0;
 }
 
+/// The streams that are open. A handful at most; one that finds no room has no descriptor number.
+struct OpenStream {
+    std::atomic<FILE *> file;
+    std::atomic<int> descriptor;
+};
+std::array<OpenStream, 16> openStreams;
+
+void remember(FILE *file, int descriptor) {
+    for (OpenStream &entry : openStreams) {
+        FILE *none = nullptr;
+        if (entry.file.compare_exchange_strong(none, file)) {
+            entry.descriptor = descriptor;
+            return;
+        }
+    }
+}
+
 int closeStream(void *cookie) {
     const std::unique_ptr<Stream> stream(static_cast<Stream *>(cookie));
+    for (OpenStream &entry : openStreams) {
+        if (entry.file != nullptr && entry.descriptor == stream->descriptor) {
+            entry.file = nullptr;
+        }
+    }
     return close(stream->descriptor);
 }
 
@@ -118,7 +142,17 @@ FILE *openDeviceStream(int number, const char *mode) {
         return nullptr;
     }
     [[maybe_unused]] Stream *const isNowTheFiles = stream.release();
+    remember(file, descriptor);
     return file;
+}
+
+int descriptorOfStream(FILE *stream) {
+    for (const OpenStream &entry : openStreams) {
+        if (entry.file == stream) {
+            return entry.descriptor;
+        }
+    }
+    return -1;
 }
 
 ssize_t readDevice(int number, int descriptor, void *buffer, size_t count) {

@@ -13,8 +13,10 @@ namespace recorder::preload {
 /// is closed and a readable disc is needed. A descriptor, or -1 with errno.
 int openDevice(int number, int flags);
 
-/// The same for a stream, which can only read and position itself, and has no descriptor number.
+/// The same for a stream, which can only read and position itself.
 FILE *openDeviceStream(int number, const char *mode);
+/// The descriptor below such a stream, which libc knows nothing of; -1 for other streams.
+int descriptorOfStream(FILE *stream);
 
 /// read(), pread() and lseek() on a descriptor of a drive.
 ssize_t readDevice(int number, int descriptor, void *buffer, size_t count);

@@ -37,13 +37,12 @@ extern "C" {
 
 int recorderGlob(const char *pattern, int flags, int (*onError)(const char *, int), glob_t *found)
     RECORDER_EXPORT("glob");
-int recorderGlob(const char *pattern, int flags, int (*onError)(const char *, int),
-                 glob_t *found) {
+int recorderGlob(const char *pattern, int flags, int (*onError)(const char *, int), glob_t *found) {
     return globIn(pattern, flags, onError, found);
 }
 
-int recorderGlob64(const char *pattern, int flags, int (*onError)(const char *, int),
-                   glob_t *found) RECORDER_EXPORT("glob64");
+int recorderGlob64(const char *pattern, int flags, int (*onError)(const char *, int), glob_t *found)
+    RECORDER_EXPORT("glob64");
 int recorderGlob64(const char *pattern, int flags, int (*onError)(const char *, int),
                    glob_t *found) {
     return globIn(pattern, flags, onError, found);

@@ -100,6 +100,12 @@ FILE *recorderFopen64(const char *path, const char *mode) {
     return openStream(path, mode);
 }
 
+int recorderFileno(FILE *stream) RECORDER_EXPORT("fileno");
+int recorderFileno(FILE *stream) {
+    const int descriptor = descriptorOfStream(stream);
+    return descriptor >= 0 ? descriptor : real().fileno(stream);
+}
+
 DIR *recorderOpendir(const char *path) RECORDER_EXPORT("opendir");
 DIR *recorderOpendir(const char *path) {
     std::string storage;

@@ -28,6 +28,7 @@ RealCalls findAll() {
     find(calls.readlinkat, "readlinkat");
     find(calls.realpath, "realpath");
     find(calls.fopen, "fopen64");
+    find(calls.fileno, "fileno");
     find(calls.opendir, "opendir");
     find(calls.glob, "glob64");
     return calls;

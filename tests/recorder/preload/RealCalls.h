@@ -25,6 +25,7 @@ struct RealCalls {
     ssize_t (*readlinkat)(int, const char *, char *, size_t);
     char *(*realpath)(const char *, char *);
     FILE *(*fopen)(const char *, const char *);
+    int (*fileno)(FILE *);
     DIR *(*opendir)(const char *);
     int (*glob)(const char *, int, int (*)(const char *, int), glob_t *);
 };
