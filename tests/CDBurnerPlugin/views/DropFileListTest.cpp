@@ -7,14 +7,16 @@
 #include <QSysInfo>
 #include <QUrl>
 
+#include <string>
+
 namespace {
 
 const QByteArrayList onePath = {"/tmp/a b.mp3"};
 
-class LocalAddress : public testing::TestWithParam<const char *> {};
+class LocalAddress : public testing::TestWithParam<std::string> {};
 
 TEST_P(LocalAddress, IsAPath) {
-    EXPECT_EQ(localPathsFromUriList(GetParam()), onePath);
+    EXPECT_EQ(localPathsFromUriList(QByteArray::fromStdString(GetParam())), onePath);
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, LocalAddress,
@@ -23,10 +25,10 @@ INSTANTIATE_TEST_SUITE_P(Forms, LocalAddress,
                                          "FILE://LocalHost/tmp/a%20b.mp3", "file:///tmp/a b.mp3",
                                          "  file:///tmp/a%20b.mp3  \r\n"));
 
-class OtherLine : public testing::TestWithParam<const char *> {};
+class OtherLine : public testing::TestWithParam<std::string> {};
 
 TEST_P(OtherLine, IsLeftOut) {
-    EXPECT_TRUE(localPathsFromUriList(GetParam()).isEmpty());
+    EXPECT_TRUE(localPathsFromUriList(QByteArray::fromStdString(GetParam())).isEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, OtherLine,

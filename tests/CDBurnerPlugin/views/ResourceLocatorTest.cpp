@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <string>
+
 namespace {
 
 QString textOf(const std::filesystem::path &path) {
@@ -16,34 +19,40 @@ protected:
     void TearDown() override { ResourceLocator::setFolder({}); }
 };
 
-class ToolPicture : public testing::TestWithParam<std::pair<const char *, QSize>> {};
+struct PictureSize {
+    std::string name;
+    int width;
+    int height;
+};
+
+/// For the tests' names.
+void PrintTo(const PictureSize &picture, std::ostream *stream) {
+    *stream << picture.name;
+}
+
+class ToolPicture : public testing::TestWithParam<PictureSize> {};
 
 TEST_P(ToolPicture, IsThereForOneAndTwoPixelsAPoint) {
-    const auto &[name, size] = GetParam();
-    const ResourceImage image = ResourceLocator::imageNamed(QString::fromLatin1(name));
+    const auto &[name, width, height] = GetParam();
+    const ResourceImage image = ResourceLocator::imageNamed(QString::fromStdString(name));
+    const QSize size(width, height);
     EXPECT_EQ(image.at1x.size(), size);
     EXPECT_EQ(image.at2x.size(), size * 2);
     EXPECT_EQ(image.at2x.devicePixelRatio(), 2.0);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ToolPicture,
-                         testing::Values(std::pair("icon_cd_burner", QSize(48, 48)),
-                                         std::pair("icon_audio_cd", QSize(32, 32)),
-                                         std::pair("icon_data_cd", QSize(32, 32)),
-                                         std::pair("button_normal_delete", QSize(22, 22)),
-                                         std::pair("button_down_delete", QSize(22, 22)),
-                                         std::pair("image_warning", QSize(16, 16)),
-                                         std::pair("image_drop_target", QSize(128, 128)),
-                                         std::pair("table_bgcolor", QSize(8, 8)),
-                                         std::pair("popup_right_top", QSize(300, 24)),
-                                         std::pair("popup_right_middle", QSize(300, 4)),
-                                         std::pair("popup_right_bottom", QSize(300, 14)),
-                                         std::pair("image_blank_startcap", QSize(5, 14)),
-                                         std::pair("image_blank_centerfill", QSize(5, 14)),
-                                         std::pair("image_blank_endcap", QSize(5, 14)),
-                                         std::pair("image_blue_startcap", QSize(5, 14)),
-                                         std::pair("image_blue_centerfill", QSize(5, 14)),
-                                         std::pair("image_blue_endcap", QSize(5, 14))));
+INSTANTIATE_TEST_SUITE_P(
+    All, ToolPicture,
+    testing::Values(
+        PictureSize{"icon_cd_burner", 48, 48}, PictureSize{"icon_audio_cd", 32, 32},
+        PictureSize{"icon_data_cd", 32, 32}, PictureSize{"button_normal_delete", 22, 22},
+        PictureSize{"button_down_delete", 22, 22}, PictureSize{"image_warning", 16, 16},
+        PictureSize{"image_drop_target", 128, 128}, PictureSize{"table_bgcolor", 8, 8},
+        PictureSize{"popup_right_top", 300, 24}, PictureSize{"popup_right_middle", 300, 4},
+        PictureSize{"popup_right_bottom", 300, 14}, PictureSize{"image_blank_startcap", 5, 14},
+        PictureSize{"image_blank_centerfill", 5, 14}, PictureSize{"image_blank_endcap", 5, 14},
+        PictureSize{"image_blue_startcap", 5, 14}, PictureSize{"image_blue_centerfill", 5, 14},
+        PictureSize{"image_blue_endcap", 5, 14}));
 
 TEST_F(ResourceLocatorTest, AMissingResourceHasNoPath) {
     EXPECT_TRUE(ResourceLocator::pathForResource(QStringLiteral("nothing"), QStringLiteral("png"))
