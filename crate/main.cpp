@@ -29,7 +29,6 @@ int run(const crate::CommandLine &commandLine, char *name) {
     std::array<char *, 2> arguments{name, nullptr};
     const QApplication application(count, arguments.data());
     QApplication::setApplicationName(QStringLiteral("crate"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Crate"));
     QApplication::setApplicationVersion(QStringLiteral(CDBURNER_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("crate"));
     std::string error;
