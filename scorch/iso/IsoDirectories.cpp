@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <climits>
+#include <condition_variable>
 #include <cstdlib>
 #include <memory>
 #include <mutex>
@@ -53,15 +53,28 @@ Interruption failure(const char *step, int code) {
 class Turn {
 public:
     /// Not owned if a stop was requested before the turn came.
-    explicit Turn(const std::stop_token &stop) : lock_(mutex(), std::defer_lock) {
-        while (!stop.stop_requested() && !lock_.try_lock_for(std::chrono::milliseconds(20))) {
+    explicit Turn(const std::stop_token &stop) {
+        Gate &gate = Turn::gate();
+        std::unique_lock lock(gate.mutex);
+        owned_ =
+            gate.changed.wait(lock, stop, [&] { return !gate.taken; }) && !stop.stop_requested();
+        gate.taken = gate.taken || owned_;
+    }
+    ~Turn() {
+        if (owned_) {
+            Gate &gate = Turn::gate();
+            const std::lock_guard lock(gate.mutex);
+            gate.taken = false;
+            gate.changed.notify_all(); // One that was stopped meanwhile must not swallow it.
         }
     }
+    Turn(const Turn &) = delete;
+    Turn &operator=(const Turn &) = delete;
 
-    bool owned() const { return lock_.owns_lock(); }
+    bool owned() const { return owned_; }
 
     /// Sets libisofs up once for the process; below zero if it cannot be used.
-    int ready() const {
+    static int ready() {
         static const int result = [] {
             // With the flag, libisofs leaves the locale of the process alone.
             int code = iso_init_with_flag(1);
@@ -78,11 +91,16 @@ public:
     }
 
 private:
-    static std::timed_mutex &mutex() {
-        static std::timed_mutex mutex;
-        return mutex;
+    struct Gate {
+        std::mutex mutex;
+        std::condition_variable_any changed;
+        bool taken = false;
+    };
+    static Gate &gate() {
+        static Gate gate;
+        return gate;
     }
-    std::unique_lock<std::timed_mutex> lock_;
+    bool owned_ = false;
 };
 
 /// What a disc for exchange needs: whoever reads it may read all of it, and gets files that are
@@ -265,7 +283,7 @@ Outcome<LaidOut> layOutInTurn(const Turn &turn, const std::vector<IsoRootEntry> 
     if (!turn.owned()) {
         return Interruption(Cancelled{});
     }
-    if (const int code = turn.ready(); code < 0) {
+    if (const int code = Turn::ready(); code < 0) {
         return failure("set-up", code);
     }
     return layOut(entries, contents, sizeOnly, stop);

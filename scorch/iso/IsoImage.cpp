@@ -61,8 +61,8 @@ Outcome<std::uint64_t> isoImageSize(const std::vector<IsoRootEntry> &entries,
     return isoLayoutSize(entries, IsoContents(entries), stop);
 }
 
-Outcome<std::unique_ptr<IsoImage>> IsoImage::create(std::vector<IsoRootEntry> entries,
-                                                    std::string volumeName,
+Outcome<std::unique_ptr<IsoImage>> IsoImage::create(const std::vector<IsoRootEntry> &entries,
+                                                    const std::string &volumeName,
                                                     const std::stop_token &stop) {
     IsoContents contents(entries);
     if (Outcome<> unchanged = checkFiles(contents, stop); !unchanged) {
