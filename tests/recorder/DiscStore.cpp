@@ -26,14 +26,18 @@ bool DiscStore::save(const Disc &disc) const {
     return replaceFile(statePath(), formatDisc(disc));
 }
 
-bool DiscStore::write(Lba first, ByteView sectors) const {
-    const Descriptor file = openFile(sectorsPath(), O_WRONLY | O_CREAT);
-    if (!file.isOpen()) {
-        return false;
+int DiscStore::sectors() const {
+    if (!sectors_) {
+        sectors_.emplace(openFile(sectorsPath(), O_RDWR | O_CREAT));
     }
+    return sectors_->get();
+}
+
+bool DiscStore::write(Lba first, ByteView sectors) const {
+    const int file = this->sectors();
     std::int64_t offset = offsetOf(first);
     while (!sectors.empty()) {
-        const ssize_t count = pwrite(file.get(), sectors.data(), sectors.size(), offset);
+        const ssize_t count = pwrite(file, sectors.data(), sectors.size(), offset);
         if (count <= 0) {
             return false;
         }
@@ -51,12 +55,9 @@ bool DiscStore::read(std::int64_t offset, ByteSpan bytes) const {
         bytes = bytes.subspan(before);
         offset = 0;
     }
-    const Descriptor file = openFile(sectorsPath(), O_RDONLY);
-    if (!file.isOpen()) {
-        return false;
-    }
+    const int file = sectors();
     while (!bytes.empty()) {
-        const ssize_t count = pread(file.get(), bytes.data(), bytes.size(), offset);
+        const ssize_t count = pread(file, bytes.data(), bytes.size(), offset);
         if (count < 0) {
             return false;
         }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/recorder/Disc.h"
+#include "tests/recorder/Files.h"
 
 #include <filesystem>
 #include <optional>
@@ -12,8 +13,9 @@ namespace recorder {
 
 /// A disc in a folder: `state`, the text of formatDisc, and `sectors`, 2352 bytes for each sector
 /// from 00:00:00 on, with holes where nothing was written. Data sectors have sync and header there;
-/// their error correction is computed when it is asked for. Keeps nothing open: a program may close
-/// all descriptors it finds, and two processes may use the same disc one after the other.
+/// their error correction is computed when it is asked for. Keeps `sectors` open from the first use
+/// to release(), which its owner calls at the end of each command: a program may close all
+/// descriptors it finds in between, and two processes may use the same disc in turns.
 class DiscStore {
 public:
     explicit DiscStore(std::filesystem::path folder) : folder_(std::move(folder)) {}
@@ -38,6 +40,8 @@ public:
     /// Takes away the contents of all sectors.
     bool eraseSectors() const;
 
+    void release() const { sectors_.reset(); }
+
     /// Where a sector begins in `sectors`.
     static std::int64_t offsetOf(Lba lba) {
         return (std::int64_t{lba} - kProgramStart) * static_cast<std::int64_t>(kRawSectorBytes);
@@ -47,7 +51,11 @@ private:
     std::filesystem::path statePath() const { return folder_ / "state"; }
     std::filesystem::path sectorsPath() const { return folder_ / "sectors"; }
 
+    /// -1 if the file cannot be opened or made.
+    int sectors() const;
+
     std::filesystem::path folder_;
+    mutable std::optional<Descriptor> sectors_;
 };
 
 } // namespace recorder

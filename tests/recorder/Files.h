@@ -15,7 +15,10 @@ public:
     explicit Descriptor(int descriptor = -1) : descriptor_(descriptor) {}
     ~Descriptor();
     Descriptor(Descriptor &&other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-    Descriptor &operator=(Descriptor &&) = delete;
+    Descriptor &operator=(Descriptor &&other) noexcept {
+        std::swap(descriptor_, other.descriptor_);
+        return *this;
+    }
     Descriptor(const Descriptor &) = delete;
     Descriptor &operator=(const Descriptor &) = delete;
 

@@ -215,6 +215,7 @@ void Recorder::reloadDisc() {
 }
 
 void Recorder::finish(Device &device) {
+    store_.release();
     if (!device.isDiscChanged || !disc_) {
         return;
     }

@@ -57,6 +57,7 @@ void beginSessionAtOnce(Device &device, const CueSheet &sheet, Lba first) {
     const Lba start = sheet.ranges().front().begin;
     const bool isLeadIn = sheet.hasLeadInText() && first < start;
     recording.next = isLeadIn ? first : sheet.nextSentBlock(start);
+    recording.isTextComplete = !device.disc->textPacks.empty(); // That of the first session stays.
     if (recording.isSimulated) {
         return;
     }
@@ -66,7 +67,9 @@ void beginSessionAtOnce(Device &device, const CueSheet &sheet, Lba first) {
         track.recorded = track.pregapStart();
     }
     device.disc->sessions.push_back(std::move(session));
-    device.disc->catalog = sheet.catalog();
+    if (!sheet.catalog().empty()) {
+        device.disc->catalog = sheet.catalog();
+    }
     device.isDiscChanged = true;
 }
 
@@ -118,13 +121,14 @@ void collectText(Device &device, ByteView block) {
     }
 }
 
-void store(Device &device, Lba lba, SectorForm form, ByteView sent) {
+/// False if the folder has no room for the sector.
+bool store(Device &device, Lba lba, SectorForm form, ByteView sent) {
     if (device.memory.recording.isSimulated) {
-        return;
+        return true;
     }
     std::array<Byte, kRawSectorBytes> sector{};
     frameSector(sector, form, lba, sent);
-    device.store.write(lba, sector);
+    return device.store.write(lba, sector);
 }
 
 /// How far a session at once has come, put into its tracks.
@@ -154,8 +158,11 @@ std::optional<Sense> writeTrackBlocks(Device &device, std::size_t count, ByteVie
         if (lba + kRunOutBlocks >= device.disc->capacity) {
             return sense::kEndOfUserArea;
         }
-        store(device, lba, recording.form,
-              sent.subspan(index * parameters.blockBytes, parameters.blockBytes));
+        if (!store(device, lba, recording.form,
+                   sent.subspan(index * parameters.blockBytes, parameters.blockBytes))) {
+            breakOff(device);
+            return atBlock(sense::kWriteError, lba);
+        }
         ++recording.next;
     }
     return {};
@@ -190,8 +197,9 @@ std::optional<Sense> writeSessionBlocks(Device &device, std::size_t count, ByteV
         }
         if (isLeadIn) {
             collectText(device, sent.first(bytes));
-        } else {
-            store(device, lba, range->form, sent.first(range->mainBytes));
+        } else if (!store(device, lba, range->form, sent.first(range->mainBytes))) {
+            breakOff(device);
+            return atBlock(sense::kWriteError, lba);
         }
         sent = sent.subspan(bytes);
         recording.next = lba + 1 == start ? sheet->nextSentBlock(start)

@@ -2,26 +2,15 @@
 // What programs do with an open descriptor. Those of other files pass through.
 #include "tests/recorder/preload/CdromIoctl.h"
 #include "tests/recorder/preload/DeviceFile.h"
+#include "tests/recorder/preload/Guard.h"
 #include "tests/recorder/preload/RealCalls.h"
 
 #include <cerrno>
 #include <cstdarg>
-#include <exception>
 
 namespace recorder::preload {
 
 namespace {
-
-/// No exception may cross into a program in C: only a lack of memory can get here.
-template <class Call>
-auto guarded(Call call) -> decltype(call()) {
-    try {
-        return call();
-    } catch (const std::exception &) {
-        errno = ENOMEM;
-        return -1;
-    }
-}
 
 ssize_t readFrom(int descriptor, void *buffer, size_t count) {
     const auto number = Drives::instance().numberOfDescriptor(descriptor);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // open() and its kin: a path of a drive gives a descriptor of the file that stands for it.
 #include "tests/recorder/preload/DeviceFile.h"
+#include "tests/recorder/preload/Guard.h"
 #include "tests/recorder/preload/RealCalls.h"
 #include "tests/recorder/preload/SystemFiles.h"
 
@@ -18,7 +19,7 @@ bool isModeGiven(int flags) {
 
 int openAt(int folder, const char *path, int flags, unsigned mode) {
     if (const auto number = Drives::instance().numberOfPath(path)) {
-        return openDevice(*number, flags);
+        return guarded([&] { return openDevice(*number, flags); });
     }
     std::string storage;
     return real().openat(folder, SystemFiles::redirect(path, storage), flags, mode);
@@ -84,7 +85,7 @@ int recorderOpenAt642(int folder, const char *path, int flags) {
 
 static FILE *openStream(const char *path, const char *mode) {
     if (const auto number = Drives::instance().numberOfPath(path)) {
-        return openDeviceStream(*number, mode);
+        return guarded([&] { return openDeviceStream(*number, mode); });
     }
     std::string storage;
     return real().fopen(SystemFiles::redirect(path, storage), mode);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // What programs ask about a path or a descriptor: a drive looks like a block device.
 #include "tests/recorder/preload/Drives.h"
+#include "tests/recorder/preload/Guard.h"
 #include "tests/recorder/preload/RealCalls.h"
 #include "tests/recorder/preload/SystemFiles.h"
 
@@ -8,7 +9,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <exception>
 #include <fcntl.h>
 #include <string>
 #include <sys/sysmacros.h>
@@ -30,11 +30,15 @@ int failWith(int error) {
 
 bool isPresent(int number) {
     const SignalsHeld held;
-    try {
-        return Drives::instance().isPresent(number);
-    } catch (const std::exception &) {
-        return false;
-    }
+    return guarded([&] { return Drives::instance().isPresent(number) ? 1 : 0; }) == 1;
+}
+
+bool isForbidden(int number) {
+    const SignalsHeld held;
+    const auto ask = [&] {
+        return Drives::instance().recorder(number)->faults().noPermission ? 1 : 0;
+    };
+    return guarded(ask) == 1;
 }
 
 /// The status of /dev/srN, or of the link to it where links are not to be followed.
@@ -58,7 +62,7 @@ int describeDevice(int number, bool isLink, struct stat *status) {
 int statAt(int folder, const char *path, struct stat *status, int flags) {
     if (const auto number = Drives::instance().numberOfPath(path)) {
         const bool isLink = (flags & AT_SYMLINK_NOFOLLOW) != 0 && Drives::isLink(path);
-        return describeDevice(*number, isLink, status);
+        return guarded([&] { return describeDevice(*number, isLink, status); });
     }
     std::string storage;
     return real().fstatat(folder, SystemFiles::redirect(path, storage), status, flags);
@@ -97,10 +101,8 @@ int mayAccess(int folder, const char *path, int mode, int flags) {
     if (!isPresent(*number)) {
         return failWith(ENOENT);
     }
-    const SignalsHeld held;
-    const bool isForbidden = Drives::instance().recorder(*number)->faults().noPermission;
     const bool isRunnable = (mode & X_OK) != 0;
-    return isRunnable || (isForbidden && mode != F_OK) ? failWith(EACCES) : 0;
+    return isRunnable || (mode != F_OK && isForbidden(*number)) ? failWith(EACCES) : 0;
 }
 
 ssize_t readLink(int folder, const char *path, char *buffer, size_t room) {
