@@ -48,6 +48,8 @@ encode "${wav[@]}" -ac 1 -c:a libmp3lame -q:a 4 song-mono.mp3
 encode "${wav[@]}" -ar 22050 -c:a libmp3lame -b:a 64k song-22k.mp3
 encode "${wav[@]}" -ar 48000 -c:a libmp3lame -b:a 128k song-48k.mp3
 encode "${wav[@]}" -c:a libvorbis -q:a 4 "${tags[@]}" song.ogg
+# Attacks make the blocks of Vorbis short, again and again.
+encode "${wav[@]}" -af tremolo=f=7:d=0.9 -c:a libvorbis -q:a 5 swelling.ogg
 encode "${wav[@]}" -c:a libopus -b:a 96k "${tags[@]}" song.opus
 encode "${wav[@]}" -c:a libopus -b:a 96k song.webm
 encode "${wav[@]}" -c:a aac -b:a 128k "${tags[@]}" song.m4a

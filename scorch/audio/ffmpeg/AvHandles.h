@@ -9,6 +9,7 @@
 #pragma GCC diagnostic ignored "-Wpedantic"
 extern "C" {
 #include <libavcodec/avcodec.h>
+#include <libavcodec/vorbis_parser.h>
 #include <libavformat/avformat.h>
 #include <libavutil/channel_layout.h>
 #include <libavutil/mathematics.h>
@@ -27,6 +28,7 @@ struct AvDelete {
     void operator()(AVCodecContext *context) const { avcodec_free_context(&context); }
     void operator()(AVPacket *packet) const { av_packet_free(&packet); }
     void operator()(AVFrame *frame) const { av_frame_free(&frame); }
+    void operator()(AVVorbisParseContext *context) const { av_vorbis_parse_free(&context); }
     void operator()(SwrContext *context) const { swr_free(&context); }
     void operator()(AVIOContext *context) const {
         av_freep(&context->buffer);

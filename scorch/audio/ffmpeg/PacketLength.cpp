@@ -4,8 +4,21 @@
 #include "scorch/audio/ffmpeg/Bytes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace scorch {
+
+PacketLength::PacketLength(const AVStream &stream, PaddingIn padding)
+    : timeBase_(stream.time_base), codec_(stream.codecpar->codec_id), padding_(padding) {
+    if (codec_ == AV_CODEC_ID_VORBIS) {
+        // Where blocks change their length the container's durations are wrong. Those that the
+        // packets tell themselves know nothing of padding.
+        padding_ = PaddingIn::duration;
+        vorbis_.reset(
+            av_vorbis_parse_init(stream.codecpar->extradata, stream.codecpar->extradata_size));
+        isCertain_ = vorbis_ != nullptr;
+    }
+}
 
 void PacketLength::setSampleRate(std::uint32_t rate) {
     rate_ = rate;
@@ -28,12 +41,14 @@ void PacketLength::add(const AVPacket &packet) {
             piece.discard = static_cast<std::int32_t>(littleEndian32(at + 4));
         }
     }
-    const bool jumps =
-        packet.pts != AV_NOPTS_VALUE && nextTime_ != AV_NOPTS_VALUE && packet.pts != nextTime_;
-    if (packet.duration <= 0 || (packet.flags & AV_PKT_FLAG_CORRUPT) != 0 || jumps) {
+    // Between Vorbis packets the container's time may be off by a part of a window.
+    const bool isKnown = packet.pts != AV_NOPTS_VALUE && nextTime_ != AV_NOPTS_VALUE;
+    const bool jumps = isKnown && (vorbis_ ? packet.pts < lastTime_ : packet.pts != nextTime_);
+    if (piece.duration < 0 || (packet.flags & AV_PKT_FLAG_CORRUPT) != 0 || jumps) {
         isCertain_ = false;
         return;
     }
+    lastTime_ = packet.pts;
     nextTime_ = packet.pts == AV_NOPTS_VALUE ? AV_NOPTS_VALUE : packet.pts + packet.duration;
     if (rate_ == 0) {
         waiting_.push_back(piece);
@@ -42,19 +57,22 @@ void PacketLength::add(const AVPacket &packet) {
     }
 }
 
-/// In the time base. Two kinds of packets do not decode to the time that they last.
+/// In the time base, −1 if the packet does not tell. Two kinds of packets do not decode to the time
+/// that the container says they last.
 std::int64_t PacketLength::durationOf(const AVPacket &packet) {
-    const bool isFirst = firstDuration_ == 0;
+    const bool isFirst = std::exchange(isFirstPacket_, false);
     if (isFirst) {
         firstDuration_ = packet.duration;
     }
-    if (codec_ == AV_CODEC_ID_VORBIS && isFirst) {
-        return 0; // Half of the first window has nothing before it to be added to.
+    if (vorbis_) {
+        const int samples = av_vorbis_parse_frame(vorbis_.get(), packet.data, packet.size);
+        // The first half of the first window has nothing before it to be added to.
+        return isFirst ? 0 : samples > 0 ? samples : -1;
     }
     if (codec_ == AV_CODEC_ID_AAC) {
         return firstDuration_; // The last one may be marked shorter, but is a whole frame.
     }
-    return packet.duration;
+    return packet.duration > 0 ? packet.duration : -1;
 }
 
 /// The same steps as the library takes between decoding and delivering.

@@ -25,8 +25,7 @@ enum class PaddingIn {
 /// another.
 class PacketLength {
 public:
-    PacketLength(AVRational timeBase, AVCodecID codec, PaddingIn padding)
-        : timeBase_(timeBase), codec_(codec), padding_(padding) {}
+    PacketLength(const AVStream &stream, PaddingIn padding);
 
     /// The rate of the decoded samples. Packets added before are counted once it is known.
     void setSampleRate(std::uint32_t rate);
@@ -49,12 +48,15 @@ private:
 
     AVRational timeBase_;
     AVCodecID codec_;
+    AvHandle<AVVorbisParseContext> vorbis_; ///< Where the codec is that.
     PaddingIn padding_;
-    std::int64_t firstDuration_ = 0; ///< 0 before the first packet.
+    bool isFirstPacket_ = true;
+    std::int64_t firstDuration_ = 0;
     std::int64_t rate_ = 0;
     bool isCertain_ = true;
     std::uint64_t samples_ = 0;
     std::int64_t skip_ = 0;
+    std::int64_t lastTime_ = AV_NOPTS_VALUE;
     std::int64_t nextTime_ = AV_NOPTS_VALUE;
     std::vector<Piece> waiting_; ///< Came before the rate was known.
 };

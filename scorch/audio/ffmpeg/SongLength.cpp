@@ -106,8 +106,7 @@ SourceResult<SourceLength> countPackets(MediaFile &file, SoundDecoder &decoder,
                                         std::uint32_t &rate) {
     AvHandle<AVPacket> packet(av_packet_alloc());
     const bool isOgg = file.container() == "ogg";
-    PacketLength length(file.stream().time_base, file.parameters().codec_id,
-                        isOgg ? PaddingIn::markingOnly : PaddingIn::duration);
+    PacketLength length(file.stream(), isOgg ? PaddingIn::markingOnly : PaddingIn::duration);
     int code = packet ? 0 : AVERROR(ENOMEM);
     while (code >= 0 && length.isCertain()) {
         code = file.readPacket(*packet);

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/scorch/audio/Songs.h"
 
+#include "scorch/audio/ffmpeg/MediaFile.h"
+#include "scorch/audio/ffmpeg/PacketLength.h"
+#include "tests/support/CommandResult.h"
+#include "tests/support/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -28,12 +33,13 @@ INSTANTIATE_TEST_SUITE_P(
                     "song-alac.m4a", "song.wv", "song.tta", "song-flac.ogg", "song.mka",
                     "tagged.flac", "song.mp3", "song-vbr.mp3", "song-vbr-bare.mp3",
                     "song-cbr-bare.mp3", "song-mono.mp3", "song-22k.mp3", "song-48k.mp3",
-                    "song.ogg", "song.opus", "song.webm", "song.m4a", "song-22k.m4a", "song.aac",
-                    "song.wma", "song.mp2", "song.ac3", "song-48k24.wav", "song-48k24.flac",
-                    "song-96k24.flac", "song-44k24.flac", "song-float.wav", "song-8bit.wav",
-                    "song-8k.wav", "song-mono.wav", "song-mono.flac", "song-51.flac", "short.wav",
-                    "short.flac", "cover.mp3", "cover.flac", "cover.m4a", "japanese.mp3",
-                    "id3v1.mp3", "video.mp4", "truncated.mp3", "truncated.ogg"),
+                    "song.ogg", "swelling.ogg", "song.opus", "song.webm", "song.m4a",
+                    "song-22k.m4a", "song.aac", "song.wma", "song.mp2", "song.ac3",
+                    "song-48k24.wav", "song-48k24.flac", "song-96k24.flac", "song-44k24.flac",
+                    "song-float.wav", "song-8bit.wav", "song-8k.wav", "song-mono.wav",
+                    "song-mono.flac", "song-51.flac", "short.wav", "short.flac", "cover.mp3",
+                    "cover.flac", "cover.m4a", "japanese.mp3", "id3v1.mp3", "video.mp4",
+                    "truncated.mp3", "truncated.ogg"),
     testName);
 
 class SongFromTheSource : public testing::TestWithParam<const char *> {};
@@ -84,6 +90,53 @@ TEST(SongLengths, PaddingOfAnM4aIsTakenOff) {
     const std::vector<std::int16_t> whole = decodedByFfmpeg(song("song.m4a"));
     EXPECT_EQ(samplesIn(ours), songSamples);
     EXPECT_LT(samplesIn(whole) - samplesIn(ours), 1024U);
+}
+
+/// An encoder, and the ending of what it makes.
+using Encoder = std::pair<const char *, const char *>;
+
+class SongOfAnyLength : public testing::TestWithParam<Encoder> {};
+
+// More or less of the last packet is padding, and noise that swells makes blocks long and short.
+TEST_P(SongOfAnyLength, CountedLengthIsWhatDecodingDelivers) {
+    const TemporaryFolder folder;
+    const auto &[codec, ending] = GetParam();
+    for (int i = 0; i < 8; ++i) {
+        const std::filesystem::path path = folder / ("song" + std::to_string(i) + ending);
+        const std::string trim = "atrim=end_sample=" + std::to_string(200'000 + 137 * i);
+        const CommandResult made =
+            runCommand({"ffmpeg", "-nostdin", "-v", "error", "-f", "lavfi", "-i",
+                        "anoisesrc=r=48000:d=5:a=0.4,tremolo=f=7:d=0.9,asetpts=N/SR/TB", "-af",
+                        trim, "-ac", "2", "-c:a", codec, path.string()});
+        ASSERT_EQ(made.exitCode, 0) << made.output;
+        EXPECT_EQ(accepted(path).samples, samplesIn(decoded(path))) << i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(SongLengths, SongOfAnyLength,
+                         testing::Values(Encoder{"libvorbis", ".ogg"}, Encoder{"libopus", ".opus"},
+                                         Encoder{"flac", ".oga"}, Encoder{"flac", ".flac"},
+                                         Encoder{"libmp3lame", ".mp3"}, Encoder{"aac", ".m4a"},
+                                         Encoder{"aac", ".aac"}, Encoder{"alac", ".m4a"},
+                                         Encoder{"wavpack", ".wv"}, Encoder{"tta", ".tta"}),
+                         [](const testing::TestParamInfo<Encoder> &encoder) {
+                             return std::string(encoder.param.first) + "In" +
+                                    (encoder.param.second + 1);
+                         });
+
+// Decoding all of a song to count it takes a second where its packets tell in a hundredth.
+TEST(SongLengths, VorbisIsCountedByItsPackets) {
+    std::unique_ptr<scorch::MediaFile> file =
+        std::move(scorch::MediaFile::open(song("swelling.ogg"), {}).value());
+    scorch::PacketLength length(file->stream(), scorch::PaddingIn::markingOnly);
+    length.setSampleRate(44100);
+    const scorch::AvHandle<AVPacket> packet(av_packet_alloc());
+    while (file->readPacket(*packet) >= 0) {
+        length.add(*packet);
+        av_packet_unref(packet.get());
+    }
+    EXPECT_TRUE(length.isCertain());
+    EXPECT_EQ(length.samples(), songSamples);
 }
 
 } // namespace
