@@ -145,6 +145,10 @@ Outcome<> TemporaryImageFile::settle(std::uint64_t from, std::uint64_t to,
             !isUnsupported(errno)) {
             return Interruption(failure(errno, "sync_file_range"));
         }
+        // Nobody reads it again soon: its memory is worth more to what is still to be written, and
+        // to the other programs.
+        posix_fadvise(descriptor_.get(), static_cast<off_t>(from), static_cast<off_t>(bytes),
+                      POSIX_FADV_DONTNEED);
         from += bytes;
         settled_ = from;
     }
