@@ -60,7 +60,7 @@ std::string Burning::silentSong(const std::string &name, std::uint32_t seconds) 
     const std::uint64_t bytes = std::uint64_t{seconds} * 44100 * 4;
     const std::string header = "RIFF" + littleEndian(36 + bytes, 4) + "WAVEfmt " +
                                littleEndian(16, 4) + littleEndian(1, 2) + littleEndian(2, 2) +
-                               littleEndian(44100, 4) + littleEndian(44100 * 4, 4) +
+                               littleEndian(44100, 4) + littleEndian(176'400, 4) +
                                littleEndian(4, 2) + littleEndian(16, 2) + "data" +
                                littleEndian(bytes, 4);
     const fs::path path = folder.write(name, header);

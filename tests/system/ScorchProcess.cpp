@@ -20,6 +20,7 @@ using Clock = std::chrono::steady_clock;
 
 std::vector<char *> pointersTo(std::vector<std::string> &texts) {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string &text : texts) {
         pointers.push_back(text.data());
     }

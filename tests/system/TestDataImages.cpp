@@ -10,7 +10,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 class DataImages : public Burning {
@@ -41,7 +40,7 @@ protected:
 
     /// Takes the whole image apart with another program.
     fs::path extracted(const std::string &name) const {
-        const fs::path target = folder / "extracted";
+        fs::path target = folder / "extracted";
         const CommandResult result = runCommand(
             {"xorriso", "-osirrox", "on", "-indev", image(name), "-extract", "/", target});
         EXPECT_EQ(result.exitCode, 0) << result.output;

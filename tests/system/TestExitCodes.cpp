@@ -84,7 +84,7 @@ TEST_F(ExitCodes, TooLongDoesNotFit) {
 }
 
 TEST_F(ExitCodes, TooBigDoesNotFit) {
-    const std::string file = sparseFile("big", 737U * 1000U * 1000U);
+    const std::string file = sparseFile("big", 737'000'000);
     const Ended ended = run(burnArguments("data", "Big", {file}));
     EXPECT_EQ(ended.exitCode, 3) << ended.errors;
     EXPECT_THAT(images(), IsEmpty());
