@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // adding_bench audio|data FILES...
 // Adds the files to a burner, waits for the end of the check, clears the list and does it again:
-// the second time nothing has to be loaded. Prints four numbers: seconds to the end of the first
-// check and of the second, the longest task on the main thread in milliseconds, and how many
-// entries the list had.
+// the second time nothing has to be loaded. Prints five numbers: seconds to the end of the first
+// check and of the second, the longest task on the main thread in milliseconds and what it would
+// have been had no other program run (its processor time), and how many entries the list had.
 
 #include "cli/MainLoop.h"
 #include "engine/ScorchDelegate.h"
@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,18 @@ using Clock = std::chrono::steady_clock;
 double secondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
+
+/// Of the calling thread.
+double processorSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+struct LongestTask {
+    double seconds = 0;
+    double processorSeconds = 0;
+};
 
 class Adding : public ScorchDelegate {
 public:
@@ -48,9 +61,10 @@ public:
 
     void allFilesDidCleared() override { second_ ? loop_.quit(0) : start(); }
 
-    void print(double longestTask) const {
-        std::printf("%.4f %.4f %.2f %lld\n", first_.value_or(-1), second_.value_or(-1),
-                    longestTask * 1000, static_cast<long long>(count_));
+    void print(const LongestTask &longest) const {
+        std::printf("%.4f %.4f %.2f %.2f %lld\n", first_.value_or(-1), second_.value_or(-1),
+                    longest.seconds * 1000, longest.processorSeconds * 1000,
+                    static_cast<long long>(count_));
     }
 
 private:
@@ -65,12 +79,15 @@ private:
 
 int run(std::string_view kind, const std::vector<BurnFile> &files) {
     cli::MainLoop loop({});
-    double longestTask = 0;
+    LongestTask longest;
     ScorchHooks::shared().postToMainThread = [&](std::function<void()> task) {
-        loop.post([&longestTask, task = std::move(task)] {
+        loop.post([&longest, task = std::move(task)] {
             const Clock::time_point start = Clock::now();
+            const double processorStart = processorSeconds();
             task();
-            longestTask = std::max(longestTask, secondsSince(start));
+            longest.seconds = std::max(longest.seconds, secondsSince(start));
+            longest.processorSeconds =
+                std::max(longest.processorSeconds, processorSeconds() - processorStart);
         });
     };
     int exitCode = 0;
@@ -79,7 +96,7 @@ int run(std::string_view kind, const std::vector<BurnFile> &files) {
                       loop);
         loop.post([&adding] { adding.start(); });
         exitCode = loop.run();
-        adding.print(longestTask);
+        adding.print(longest);
     }
     Scorcher::shutDownAll();
     return exitCode;
