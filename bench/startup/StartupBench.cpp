@@ -8,8 +8,10 @@
 // with TEXT to be mapped, and pings it (_NET_WM_PING) twice, one after the other: the first answer
 // may come before the window's first paint, the second one comes from a later turn of the
 // program's main loop. The clock runs from the fork to the second answer; the memory is VmRSS of
-// the program at that moment, and RssAnon, which no other process shares. The program is then ended
-// with SIGTERM. Prints each run and the medians. One run before the first warms the file cache.
+// the program at that moment, and RssAnon, which no other process shares. The processor time of its
+// threads is printed beside them: it says how much of the time was waiting, on a busy machine for
+// others. The program is then ended with SIGTERM. Prints each run and the medians. One run before
+// the first warms the file cache.
 
 #include <xcb/xcb.h>
 
@@ -21,6 +23,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <optional>
@@ -29,6 +32,7 @@
 #include <string>
 #include <string_view>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -170,6 +174,7 @@ private:
 
 struct Run {
     double seconds = 0;
+    double processorSeconds = 0;
     double residentMiB = 0;
     double ownMiB = 0;
 };
@@ -183,6 +188,21 @@ double mebibytes(pid_t process, std::string_view key) {
         }
     }
     return 0;
+}
+
+/// What all threads of a process have run for, from the first field of schedstat (nanoseconds).
+double processorSeconds(pid_t process) {
+    double nanoseconds = 0;
+    std::error_code error;
+    const std::filesystem::directory_iterator threads("/proc/" + std::to_string(process) + "/task",
+                                                      error);
+    for (const auto &thread : threads) {
+        std::ifstream file(thread.path() / "schedstat");
+        double spent = 0;
+        file >> spent;
+        nanoseconds += spent;
+    }
+    return nanoseconds / 1e9;
 }
 
 std::optional<Run> measure(Display &display, const std::string &title, char *const *program) {
@@ -200,6 +220,7 @@ std::optional<Run> measure(Display &display, const std::string &title, char *con
     if (window && display.ping(*window, deadline) && display.ping(*window, deadline)) {
         run.emplace();
         run->seconds = std::chrono::duration<double>(Clock::now() - start).count();
+        run->processorSeconds = processorSeconds(process);
         run->residentMiB = mebibytes(process, "VmRSS:");
         run->ownMiB = mebibytes(process, "RssAnon:");
     }
@@ -251,13 +272,14 @@ int main(int argc, char *argv[]) {
             return 1;
         }
         if (number > 0) {
-            std::printf("run %zu: %.3f s, %.1f MiB\n", number, run->seconds, run->residentMiB);
+            std::printf("run %zu: %.3f s (processor %.3f s), %.1f MiB\n", number, run->seconds,
+                        run->processorSeconds, run->residentMiB);
             runs.push_back(*run);
         }
     }
-    std::printf(
-        "median of %zu: %.3f s to a window that answers, %.1f MiB resident (%.1f its own)\n",
-        runs.size(), median(runs, &Run::seconds), median(runs, &Run::residentMiB),
-        median(runs, &Run::ownMiB));
+    std::printf("median of %zu: %.3f s to a window that answers (processor %.3f s), "
+                "%.1f MiB resident (%.1f its own)\n",
+                runs.size(), median(runs, &Run::seconds), median(runs, &Run::processorSeconds),
+                median(runs, &Run::residentMiB), median(runs, &Run::ownMiB));
     return 0;
 }
