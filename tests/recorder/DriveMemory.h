@@ -14,7 +14,7 @@ namespace recorder {
 enum class WriteMode : std::uint8_t { None = 0, TrackAtOnce = 1, SessionAtOnce = 2 };
 
 inline constexpr std::size_t kWritePageBytes = 0x34;
-inline constexpr std::size_t kCueSheetLimit = 16 * 1024;
+inline constexpr std::size_t kCueSheetLimit = std::size_t{16} * 1024;
 
 /// A recording that is under way, or a cue sheet that waits for its first block.
 struct Recording {

@@ -70,7 +70,7 @@ Answer Recorder::execute(ByteView cdb, ByteView sent) {
     }
     const Command command{cdb, sent};
     if (faults_.silentMs) {
-        const Answer answer{{}, {}, Transport::TimedOut, *faults_.silentMs};
+        Answer answer{{}, {}, Transport::TimedOut, *faults_.silentMs};
         log(command, answer);
         return answer;
     }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr Lba kShortestTrack = 300;
 constexpr Lba kRunOutBlocks = 2;
-constexpr std::size_t kMostTextPacks = 8 * 255;
+constexpr std::size_t kMostTextPacks = std::size_t{8} * 255;
 
 ByteView cueBytes(const Recording &recording) {
     return ByteView(recording.cue).first(recording.cueBytes);

@@ -119,7 +119,7 @@ ssize_t readLink(int folder, const char *path, char *buffer, size_t room) {
     }
     const std::string target = linkTarget(*number);
     const std::size_t length = std::min(room, target.size());
-    std::memcpy(buffer, target.data(), length);
+    std::copy_n(target.begin(), length, buffer); // With no zero at the end, as the call has it.
     return static_cast<ssize_t>(length);
 }
 

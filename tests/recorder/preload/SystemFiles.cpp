@@ -24,8 +24,8 @@ bool isBelow(std::string_view path, std::string_view folder) {
 
 std::string info(const std::vector<int> &numbers) {
     std::string text = "CD-ROM information, Id: cdrom.c 3.20 2003/12/17\n\ndrive name:\t";
-    for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
-        text += "\tsr" + std::to_string(*number);
+    for (const int number : numbers) {
+        text += "\tsr" + std::to_string(number);
     }
     return text + "\n";
 }
