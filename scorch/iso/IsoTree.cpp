@@ -125,7 +125,10 @@ Outcome<IsoScan> scanPath(const std::filesystem::path &path, const ScanProgress 
         }
     }
     if (stop.stop_requested()) {
-        return Interruption(Cancelled{});
+        // Named, because gcc 12 wrongly finds the move of a temporary uninitialised with
+        // sanitizers.
+        const Interruption stopped = Cancelled{};
+        return stopped;
     }
     return std::move(builder).take();
 }

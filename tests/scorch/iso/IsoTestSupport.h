@@ -34,7 +34,7 @@ struct Streamed {
     std::string bytes;
     std::optional<scorch::Interruption> failure;
 };
-Streamed streamed(scorch::SectorSource &source, std::size_t pieceBytes = 256 * 1024);
+Streamed streamed(scorch::SectorSource &source, std::size_t pieceBytes = 256 * std::size_t{1024});
 
 /// Makes an image of the entries, which must succeed, and writes it to `to`.
 void writeImage(const std::vector<scorch::IsoRootEntry> &entries, const std::filesystem::path &to,

@@ -196,6 +196,7 @@ TEST(IsoSize, SeveralThreadsMayAskAtOnce) {
     const auto entries = entriesOf({folder / "in"});
     const std::uint64_t expected = predictedSize(entries);
     std::vector<std::future<int>> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.push_back(std::async(std::launch::async, [&] {
             int wrong = 0;

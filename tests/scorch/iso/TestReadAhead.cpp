@@ -67,7 +67,7 @@ private:
 TEST(ReadAhead, DeliversWhatIsThereInAnyPieces) {
     for (const std::size_t sectors : {0, 1, 127, 128, 129, 5000}) {
         CountingSource plain(sectors, false);
-        const std::string expected = streamed(plain, 2048 * 6000).bytes;
+        const std::string expected = streamed(plain, std::size_t{2048} * 6000).bytes;
         for (const std::size_t piece : {1, 100, 128, 129, 6000}) {
             ReadAhead ahead(std::make_unique<CountingSource>(sectors, false));
             EXPECT_TRUE(streamed(ahead, piece * 2048).bytes == expected) << sectors << " " << piece;
@@ -83,7 +83,7 @@ TEST(ReadAhead, BehindTheEndThereIsNothing) {
 
 TEST(ReadAhead, AFailureComesBehindWhatWasReadBeforeIt) {
     ReadAhead ahead(std::make_unique<CountingSource>(1280, true));
-    const Streamed stream = streamed(ahead, 2048 * 128);
+    const Streamed stream = streamed(ahead, std::size_t{2048} * 128);
     EXPECT_EQ(stream.bytes.size(), 1280U * 2048);
     ASSERT_TRUE(stream.failure);
     EXPECT_FALSE(scorch::isCancelled(*stream.failure));
