@@ -97,8 +97,9 @@ TEST(IsoContents, TheTailIsZero) {
     const TemporaryFolder folder;
     const auto image = laidOut(entriesOf({folder.write("only", "one")}));
     const std::string bytes = streamed(*image->openSource()).bytes;
-    EXPECT_EQ(bytes.substr(bytes.size() - 151 * 2048, 3), "one");
-    EXPECT_EQ(bytes.find_first_not_of('\0', bytes.size() - 151 * 2048 + 3), std::string::npos);
+    EXPECT_EQ(bytes.substr(bytes.size() - std::size_t{151} * 2048, 3), "one");
+    EXPECT_EQ(bytes.find_first_not_of('\0', bytes.size() - std::size_t{151} * 2048 + 3),
+              std::string::npos);
 }
 
 TEST(IsoContents, AreTheSameHoweverTheyAreRead) {

@@ -63,7 +63,7 @@ TEST(VolumeName, BytesThatAreNoTextHarmNothing) {
 }
 
 TEST(VolumeName, NothingIsStampedIntoWhatIsNoImage) {
-    std::array<std::byte, 20 * 2048> zeros{};
+    std::array<std::byte, std::size_t{20} * 2048> zeros{};
     EXPECT_FALSE(scorch::stampVolumeName(zeros, "name"));
     EXPECT_FALSE(scorch::stampVolumeName({}, "name"));
 }
