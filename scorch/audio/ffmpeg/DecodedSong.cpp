@@ -10,7 +10,7 @@ namespace scorch {
 namespace {
 
 /// Of a song that was fine when it was checked.
-Interruption interruptionOf(const std::filesystem::path &path, SourceFailure failure) {
+Interruption interruptionOf(const std::filesystem::path &path, const SourceFailure &failure) {
     std::string detail = failure.reason;
     if (!failure.detail.empty()) {
         detail += " (" + failure.detail + ")";
@@ -75,7 +75,7 @@ Outcome<std::size_t> DecodedSong::read(std::span<std::int16_t> values,
                 break;
             }
             if (std::optional<SourceFailure> failure = decodeMore()) {
-                return interruptionOf(path_, *std::move(failure));
+                return interruptionOf(path_, *failure);
             }
             continue;
         }

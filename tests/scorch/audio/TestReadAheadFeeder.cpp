@@ -158,7 +158,7 @@ TEST(ReadAheadFeeder, SongThatEndsEarlyIsAnErrorThatNamesTheFile) {
     ReadAheadFeeder feeder({{"dir/Early.flac", 100000}}, 1, songs.opener());
     const ScorchError error = errorOf(readTrack(feeder, 0));
     EXPECT_EQ(error.category(), ScorchErrorCode::sourceTooShort);
-    EXPECT_THAT(error.localizedDescription(), HasSubstr("\"Early.flac\""));
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("Early.flac"));
     EXPECT_THAT(error.detail(), HasSubstr("99999 of 100000"));
 }
 
@@ -167,7 +167,7 @@ TEST(ReadAheadFeeder, SongThatGrewIsAnErrorThatNamesTheFile) {
     ReadAheadFeeder feeder({{"dir/Longer.flac", 100000}}, 1, songs.opener());
     const ScorchError error = errorOf(readTrack(feeder, 0));
     EXPECT_EQ(error.category(), ScorchErrorCode::sourceChanged);
-    EXPECT_THAT(error.localizedDescription(), HasSubstr("\"Longer.flac\""));
+    EXPECT_THAT(error.localizedDescription(), HasSubstr("Longer.flac"));
 }
 
 TEST(ReadAheadFeeder, ErrorOfTheDecoderReachesTheReader) {
