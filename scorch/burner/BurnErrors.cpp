@@ -56,12 +56,12 @@ ScorchError finishedBeforeStopError() {
             localized("The disc was complete before the burn could be stopped. It can be used.")};
 }
 
-ScorchError internalError(std::string detail) {
+ScorchError internalError(const std::string &detail) {
     return {ScorchErrorCode::internal,
             localized("Something unexpected went wrong (%@). Try again; if it happens again, "
                       "please report it.",
                       {detail}),
-            std::move(detail)};
+            detail};
 }
 
 ScorchError doesNotFitError(TrackKind kind, std::int64_t needed, std::int64_t free) {

@@ -22,7 +22,7 @@ ScorchError burnerCheckingError();
 ScorchError burnerBurningError();
 ScorchError driveBusyError(const std::string &name);
 ScorchError finishedBeforeStopError();
-ScorchError internalError(std::string detail);
+ScorchError internalError(const std::string &detail);
 
 /// The disc is too small. Sectors; the text has playing times for sound and sizes for data.
 ScorchError doesNotFitError(TrackKind kind, std::int64_t needed, std::int64_t free);

@@ -124,7 +124,8 @@ void Burner::checkThreadEnded(CheckRefusals refusals) {
 void Burner::endCheck() {
     if (!check_->late.empty()) {
         check_->queue.reopen();
-        check_->queue.join(std::exchange(check_->late, {}));
+        check_->queue.join(check_->late);
+        check_->late.clear();
         runCheck();
         return;
     }

@@ -17,8 +17,9 @@ class CheckQueue {
 public:
     using Files = std::vector<BurnFile>;
 
-    /// More files for the check. False once the check has come to its end and takes none any more.
-    bool join(Files files) {
+    /// More files for the check, which are taken out of `files`. False, and they are left there,
+    /// once the check has come to its end and takes none any more.
+    bool join(Files &files) {
         const std::lock_guard lock(mutex_);
         if (closed_) {
             return false;

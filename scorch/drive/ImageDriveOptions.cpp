@@ -106,16 +106,21 @@ std::vector<ImageDriveOptions> parseImageDriveOptions(std::string_view setting,
 }
 
 std::vector<std::string> imageDriveNames(const std::vector<ImageDriveOptions> &drives) {
-    std::vector<std::string> names;
-    names.reserve(drives.size());
+    std::vector<std::string> lastComponents;
     for (const ImageDriveOptions &drive : drives) {
-        const std::string last = lastComponent(drive.folder);
-        const auto alike =
-            std::count_if(drives.begin(), drives.end(), [&last](const ImageDriveOptions &other) {
-                return lastComponent(other.folder) == last;
-            });
-        const std::string &shown = alike > 1 ? drive.folder.native() : last;
-        names.push_back(localized("Disc image (%@)", {readableText(shown)}));
+        lastComponents.push_back(readableText(lastComponent(drive.folder)));
+    }
+    std::vector<std::string> names;
+    for (std::size_t index = 0; index < drives.size(); ++index) {
+        const std::string &last = lastComponents[index];
+        const bool alike = std::count(lastComponents.begin(), lastComponents.end(), last) > 1;
+        const std::string shown = alike ? readableText(drives[index].folder.native()) : last;
+        std::string name = localized("Disc image (%@)", {shown});
+        // Folders that differ only in bytes that are no text look the same all the same.
+        for (int number = 2; std::count(names.begin(), names.end(), name) > 0; ++number) {
+            name = localized("Disc image (%@)", {shown + ' ' + std::to_string(number)});
+        }
+        names.push_back(std::move(name));
     }
     return names;
 }

@@ -16,7 +16,7 @@ namespace {
 /// Sectors that are read and written at once: about a megabyte.
 constexpr std::size_t copySectors = 512;
 /// Room that a file system needs besides the image: a cue sheet, folder entries, block maps.
-constexpr std::uint64_t bookkeepingBytes = 64 * 1024;
+constexpr std::uint64_t bookkeepingBytes = 65'536;
 
 /// A source that does not keep to its layout would put something else on the disc than was
 /// announced: the positions of all that follows would be wrong.

@@ -45,7 +45,7 @@ protected:
         for (const std::string &name : names) {
             files.push_back({name, {}, {}});
         }
-        queue_.join(std::move(files));
+        queue_.join(files);
         return checkSongs(services_, queue_, sink_, stop_.get_token());
     }
     std::vector<std::string> accepted() const {
@@ -123,7 +123,8 @@ TEST_F(AudioCheckTest, AnItemHasItsSectorsAndKnowsItsWords) {
     services_.probe = [](const std::filesystem::path &, const std::stop_token &) {
         return AudioProbe(AudioInfo{588 * 400 + 1, "Tag artist", "Tag title", ""});
     };
-    queue_.join({{"a.mp3", "Artist", ""}});
+    std::vector<BurnFile> files = {{"a.mp3", "Artist", ""}};
+    queue_.join(files);
     checkSongs(services_, queue_, sink_, {});
     ASSERT_EQ(sink_.items.size(), 1U);
     EXPECT_EQ(sink_.items[0]->sectors, 401);
@@ -164,7 +165,8 @@ TEST_F(AudioCheckTest, FilesThatJoinRaiseTheCount) {
     sink_.onAccepted = [this, &joined] {
         milliseconds_ += 300;
         if (!std::exchange(joined, true)) {
-            EXPECT_TRUE(queue_.join({{"c", {}, {}}, {"d", {}, {}}}));
+            std::vector<BurnFile> more = {{"c", {}, {}}, {"d", {}, {}}};
+            EXPECT_TRUE(queue_.join(more));
         }
     };
     run({"a", "b"});
@@ -172,7 +174,9 @@ TEST_F(AudioCheckTest, FilesThatJoinRaiseTheCount) {
     EXPECT_EQ(sink_.progress.front().count, 2);
     EXPECT_EQ(sink_.progress.back().count, 4);
     EXPECT_EQ(sink_.progress.back().index, 4);
-    EXPECT_FALSE(queue_.join({{"late", {}, {}}}));
+    std::vector<BurnFile> late = {{"late", {}, {}}};
+    EXPECT_FALSE(queue_.join(late));
+    EXPECT_EQ(late.size(), 1U);
 }
 
 TEST_F(AudioCheckTest, AStopEndsTheCheckWithWhatWasAccepted) {

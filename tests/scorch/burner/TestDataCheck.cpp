@@ -67,7 +67,7 @@ protected:
         for (const std::string &name : names) {
             files.push_back({name, {}, {}});
         }
-        queue_.join(std::move(files));
+        queue_.join(files);
         return checkFiles(services_, queue_, sink_, stop_.get_token());
     }
 

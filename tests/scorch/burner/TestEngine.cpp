@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
@@ -81,7 +82,12 @@ TEST_F(EngineTest, BurnsADataDiscOfThePredictedSizeThatOthersRead) {
     ScorchLog log(burner.get());
     folder_.write("tree/sub/deep.txt", "deep");
     folder_.write("tree/.hidden", "hidden");
+    std::uint64_t bound = 0;
+    log.onWord = [&](const std::string &) {
+        bound = std::max(bound, burner->usedCapacity());
+    };
     add(*burner, log, {folder_.write("plain.txt", "plain"), folder_ / "tree"});
+    EXPECT_GE(bound, burner->usedCapacity()); // Never too small while the check ran.
     const std::uint64_t predicted = burner->usedCapacity();
     const auto device = ScorcherDevice::initWithDeviceName("Disc image (discs)");
     burner->burnWithDeviceDiscNamed(device.get(), "Holidays");
@@ -143,7 +149,10 @@ TEST_F(EngineTest, AFileThatShrankSinceItWasAddedFailsTheBurnAndIsNamed) {
 TEST_F(EngineTest, ShuttingDownDuringABurnLeavesNothing) {
     const auto burner = Scorcher::dataCDBurner();
     ScorchLog log(burner.get());
-    add(*burner, log, {folder_.write("large.bin", std::string(200'000'000, 'x'))});
+    // Large enough to be still written when the stage has been told; takes no room itself.
+    const auto large = folder_.write("large.bin", "x");
+    std::filesystem::resize_file(large, 700'000'000);
+    add(*burner, log, {large});
     const auto device = ScorcherDevice::initWithDeviceName("Disc image (discs)");
     burner->burnWithDeviceDiscNamed(device.get(), "Disc");
     ASSERT_TRUE(queue_.runUntil([&log] { return log.has("write 1/1"); }));

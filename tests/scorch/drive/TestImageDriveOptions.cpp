@@ -95,6 +95,11 @@ TEST(ImageDriveOptions, ANameThatIsNoTextIsShownAllTheSame) {
     EXPECT_THAT(namesOf("/a/\xFF"), ElementsAre("Disc image (\uFFFD)"));
 }
 
+TEST(ImageDriveOptions, NoTwoNamesAreTheSame) {
+    EXPECT_THAT(namesOf("/a/\xFF:/a/\xFE"),
+                ElementsAre("Disc image (/a/\uFFFD)", "Disc image (/a/\uFFFD 2)"));
+}
+
 TEST(ImageDriveSource, FindsTheDrivesThatTheEnvironmentNames) {
     setenv("SCORCH_IMAGE_DRIVE", "/x/one,minutes=74:/x/two", 1);
     const auto drives = ImageDriveSource().search({});
