@@ -25,7 +25,11 @@ using namespace recorder;
 
 namespace {
 
-const char *const kDevice = "/dev/sr0";
+/// A drive for each test, also where all run in one process.
+int nextNumber() {
+    static int number = 0;
+    return number++;
+}
 
 class DeviceNode : public testing::Test {
 protected:
@@ -37,7 +41,7 @@ protected:
     }
 
     int openDrive(int flags = O_RDWR | O_NONBLOCK) {
-        const int descriptor = open(kDevice, flags);
+        const int descriptor = open(device.c_str(), flags);
         if (descriptor >= 0) {
             open_.push_back(descriptor);
         }
@@ -48,7 +52,9 @@ protected:
         makeDataDisc(scene.folder() / "disc", DiscKind::CdRom, data);
     }
 
-    DriveScene scene{std::getenv("CD_RECORDER")};
+    const std::string name = "sr" + std::to_string(nextNumber());
+    const std::string device = "/dev/" + name;
+    DriveScene scene{std::getenv("CD_RECORDER"), name};
 
 private:
     std::vector<int> open_;
@@ -80,33 +86,36 @@ int inquire(int descriptor) {
 
 TEST_F(DeviceNode, LooksLikeABlockDevice) {
     struct stat status {};
-    ASSERT_EQ(stat(kDevice, &status), 0);
+    ASSERT_EQ(stat(device.c_str(), &status), 0);
     EXPECT_TRUE(S_ISBLK(status.st_mode));
     EXPECT_EQ(major(status.st_rdev), 11U);
     ASSERT_EQ(fstat(openDrive(), &status), 0);
     EXPECT_TRUE(S_ISBLK(status.st_mode));
     struct statx extended {};
-    ASSERT_EQ(statx(AT_FDCWD, "/dev/sr0", 0, STATX_ALL, &extended), 0);
+    ASSERT_EQ(statx(AT_FDCWD, device.c_str(), 0, STATX_ALL, &extended), 0);
     EXPECT_EQ(extended.stx_rdev_major, 11U);
-    EXPECT_EQ(access(kDevice, R_OK | W_OK), 0);
+    EXPECT_EQ(access(device.c_str(), R_OK | W_OK), 0);
 }
 
 TEST_F(DeviceNode, IsAbsentWhereThereIsNoFolderForIt) {
     struct stat status {};
-    EXPECT_EQ(stat("/dev/sr5", &status), -1);
+    EXPECT_EQ(stat("/dev/sr31", &status), -1);
     EXPECT_EQ(errno, ENOENT);
-    EXPECT_EQ(open("/dev/sr5", O_RDONLY | O_NONBLOCK), -1);
+    EXPECT_EQ(open("/dev/sr31", O_RDONLY | O_NONBLOCK), -1);
     EXPECT_EQ(errno, ENOENT);
-    DriveScene later(std::getenv("CD_RECORDER"), "sr5");
-    EXPECT_EQ(stat("/dev/sr5", &status), 0);
+    DriveScene later(std::getenv("CD_RECORDER"), "sr31");
+    EXPECT_EQ(stat("/dev/sr31", &status), 0);
 }
 
 TEST_F(DeviceNode, HasLinksThatLeadToIt) {
+    const DriveScene first(std::getenv("CD_RECORDER"), "sr0");
     struct stat status {};
     ASSERT_EQ(lstat("/dev/cdrom", &status), 0);
     EXPECT_TRUE(S_ISLNK(status.st_mode));
+    ASSERT_EQ(stat("/dev/cdrom", &status), 0);
+    EXPECT_TRUE(S_ISBLK(status.st_mode));
     std::array<char, PATH_MAX> target{};
-    EXPECT_EQ(std::string(realpath("/dev/cdrom", target.data())), kDevice);
+    EXPECT_EQ(std::string(realpath("/dev/cdrom", target.data())), "/dev/sr0");
     EXPECT_EQ(readlink("/dev/scd0", target.data(), target.size()), 3);
 }
 
@@ -148,7 +157,7 @@ TEST_F(DeviceNode, ExclusiveOpenHoldsAgainstAnotherProcess) {
     ASSERT_GE(openDrive(O_RDWR | O_NONBLOCK | O_EXCL), 0);
     const pid_t child = fork();
     if (child == 0) {
-        _exit(open(kDevice, O_RDWR | O_NONBLOCK | O_EXCL) == -1 ? errno : 0);
+        _exit(open(device.c_str(), O_RDWR | O_NONBLOCK | O_EXCL) == -1 ? errno : 0);
     }
     int status = 0;
     waitpid(child, &status, 0);
@@ -232,7 +241,7 @@ TEST_F(DeviceNode, IsReadAtAnyByteAndEndsAtItsSize) {
 TEST_F(DeviceNode, IsReadAsAStream) {
     const Bytes data = pattern(kUserDataBytes, 40);
     insertData(data);
-    FILE *stream = fopen(kDevice, "r");
+    FILE *stream = fopen(device.c_str(), "r");
     ASSERT_NE(stream, nullptr);
     EXPECT_EQ(inquire(fileno(stream)), 0);
     Bytes part(3000);
@@ -296,9 +305,9 @@ TEST_F(DeviceNode, ShortAnswerLeavesAResidueAndFillsScatteredBuffers) {
 TEST_F(DeviceNode, IsNamedInTheKernelsFiles) {
     std::ifstream info("/proc/sys/dev/cdrom/info");
     const std::string text{std::istreambuf_iterator<char>(info), {}};
-    EXPECT_NE(text.find("sr0"), std::string::npos);
-    std::ifstream model("/sys/bus/scsi/devices/0:0:0:0/model");
-    std::string name;
-    std::getline(model, name);
-    EXPECT_EQ(name, "CD-RW RECORDER  ");
+    EXPECT_NE(text.find(name), std::string::npos);
+    std::ifstream model("/sys/bus/scsi/devices/" + name.substr(2) + ":0:0:0/model");
+    std::string product;
+    std::getline(model, product);
+    EXPECT_EQ(product, "CD-RW RECORDER  ");
 }
