@@ -23,14 +23,17 @@ SourceFailure notSound(std::string reason, std::string detail = {}) {
 }
 
 SourceFailure protectedBy(Protection protection) {
-    const char *text = "It is an encrypted book from Audible.";
+    std::string reason;
     if (protection == Protection::mp4Encryption) {
-        text = "It is a copy-protected MP4 file, which only its shop's own player can play.";
+        reason = localized("It is a copy-protected MP4 file, which only its shop's own player can "
+                           "play.");
     } else if (protection == Protection::asfEncryption) {
-        text = "It is a copy-protected Windows Media file, which only its shop's own player can "
-               "play.";
+        reason = localized("It is a copy-protected Windows Media file, which only its shop's own "
+                           "player can play.");
+    } else {
+        reason = localized("It is an encrypted book from Audible.");
     }
-    return {SourceFailure::Kind::protectedFile, localized(text), {}};
+    return {SourceFailure::Kind::protectedFile, std::move(reason), {}};
 }
 
 /// A song is one file. Lists and streams that lead to others, on this computer or not, are none.
