@@ -5,6 +5,12 @@
 #include <string>
 #include <string_view>
 
+/// Marks a literal as a key of ScorchHooks::localizedText where it is not looked up on the spot, in
+/// a table of keys. Who collects the keys for translation finds it by this.
+constexpr std::string_view localizableKey(std::string_view key) {
+    return key;
+}
+
 /// What the engine needs of the program it lives in. The program fills this in once, at start-up,
 /// on the main thread, before it asks for a burner or a drive; the engine only reads it.
 struct ScorchHooks {

@@ -46,7 +46,9 @@ inline std::string stringWithDurationFramesEnabled(std::int64_t frames, bool fra
 /// in whole bytes ("1 byte"). A negative value keeps its sign.
 inline std::string stringWithFilesize(std::int64_t bytes) {
     using namespace scorch_text;
-    static constexpr std::array<std::string_view, 6> units = {"kB", "MB", "GB", "TB", "PB", "EB"};
+    static constexpr std::array<std::string_view, 6> units = {
+        localizableKey("kB"), localizableKey("MB"), localizableKey("GB"),
+        localizableKey("TB"), localizableKey("PB"), localizableKey("EB")};
     const ScorchHooks &hooks = ScorchHooks::shared();
     const auto localized = [&hooks](std::string_view key) {
         return hooks.localizedText ? hooks.localizedText(key) : std::string(key);

@@ -16,7 +16,7 @@ std::string nameOf(const std::filesystem::path &path) {
 } // namespace
 
 std::string songUnreadableText(const std::filesystem::path &path) {
-    return localized("\"%@\" cannot be read to its end: the file is damaged, or the disk it lies "
+    return localized("“%@” cannot be read to its end: the file is damaged, or the disk it lies "
                      "on is. Take it off the list, or put a good copy in its place and add it "
                      "again.",
                      {nameOf(path)});
@@ -24,7 +24,7 @@ std::string songUnreadableText(const std::filesystem::path &path) {
 
 ScorchError songMissing(const std::filesystem::path &path, std::string detail) {
     return {ScorchErrorCode::sourceMissing,
-            localized("\"%@\" is no longer where it was. Put it back, or take it off the list.",
+            localized("“%@” is no longer where it was. Put it back, or take it off the list.",
                       {nameOf(path)}),
             std::move(detail)};
 }
@@ -35,7 +35,7 @@ ScorchError songUnreadable(const std::filesystem::path &path, std::string detail
 
 ScorchError songChanged(const std::filesystem::path &path, std::string detail) {
     return {ScorchErrorCode::sourceChanged,
-            localized("\"%@\" is not the file it was when it was added. Take it off the list and "
+            localized("“%@” is not the file it was when it was added. Take it off the list and "
                       "add it again.",
                       {nameOf(path)}),
             std::move(detail)};
@@ -44,7 +44,7 @@ ScorchError songChanged(const std::filesystem::path &path, std::string detail) {
 ScorchError songTooShort(const std::filesystem::path &path, std::uint64_t decoded,
                          std::uint64_t counted) {
     return {ScorchErrorCode::sourceTooShort,
-            localized("\"%@\" is shorter than it was when it was added: it has been cut or "
+            localized("“%@” is shorter than it was when it was added: it has been cut or "
                       "damaged. Take it off the list, or put a good copy in its place and add it "
                       "again.",
                       {nameOf(path)}),
