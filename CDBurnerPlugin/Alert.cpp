@@ -8,6 +8,7 @@
 
 QMessageBox *makeAlert(QWidget *parent, const AlertTexts &texts) {
     auto *const alert = new QMessageBox(parent);
+    alert->setLayoutDirection(localizationDirection());
     alert->setWindowModality(Qt::ApplicationModal);
     alert->setWindowTitle(localizedString("CD Burner"));
     alert->setIcon(QMessageBox::Information);

@@ -8,6 +8,13 @@ QRectF deleteButtonFrame(const QSizeF &rowSize, const QPointF &rowOrigin, double
             rowOrigin.y() - (rowSize.height() + buttonSide) / 2, buttonSide, buttonSide};
 }
 
+QRectF mirroredDeleteButtonFrame(const QSizeF &rowSize, const QPointF &rowOrigin,
+                                 double buttonSide) {
+    QRectF frame = deleteButtonFrame(rowSize, rowOrigin, buttonSide);
+    frame.moveLeft(rowOrigin.x());
+    return frame;
+}
+
 IndexSet rowsAfterMove(const IndexSet &rows, std::int64_t destination) {
     const auto count = static_cast<std::int64_t>(rows.size());
     const std::int64_t largest = rows.empty() ? 0 : *rows.rbegin();

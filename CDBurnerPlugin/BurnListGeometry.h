@@ -11,6 +11,10 @@
 /// is the row's top left corner; all in the window's points with y upwards.
 QRectF deleteButtonFrame(const QSizeF &rowSize, const QPointF &rowOrigin, double buttonSide);
 
+/// The same in a layout that runs from right to left, where rows end at the left.
+QRectF mirroredDeleteButtonFrame(const QSizeF &rowSize, const QPointF &rowOrigin,
+                                 double buttonSide);
+
 /// Where moved rows stand after a drop at the insertion point `destination`: together from it on if
 /// they came from below it, else just before it.
 IndexSet rowsAfterMove(const IndexSet &rows, std::int64_t destination);

@@ -3,6 +3,9 @@
 
 #include "CDBurnerPlugin/ResourceLocator.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <array>
 #include <mutex>
 #include <utility>
@@ -71,11 +74,41 @@ void setLocalizationTranslator(std::shared_ptr<const QTranslator> translator) {
     current().translator.swap(translator);
 }
 
+Qt::LayoutDirection localizationDirection() {
+    const std::lock_guard lock(current().mutex);
+    const std::shared_ptr<const QTranslator> &translator = current().translator;
+    return translator != nullptr ? QLocale(translator->language()).textDirection()
+                                 : Qt::LeftToRight;
+}
+
+QString translationFor(const QStringList &languages, const QStringList &translations) {
+    for (const QString &language : languages) {
+        const QLocale wanted(language);
+        if (wanted.language() == QLocale::English) {
+            return {}; // What the keys are in: nothing that is liked less takes its place.
+        }
+        for (const QString &translation : translations) {
+            const QLocale offered(translation);
+            if (offered.language() == wanted.language() && offered.script() == wanted.script() &&
+                wanted.language() != QLocale::C) {
+                return translation;
+            }
+        }
+    }
+    return {};
+}
+
 bool loadLocalization(const QLocale &locale) {
+    static const QString prefix = QStringLiteral("cdburner_");
+    const QDir folder(ResourceLocator::folder() + QStringLiteral("/translations"));
+    QStringList translations;
+    for (const QFileInfo &file : folder.entryInfoList({prefix + QStringLiteral("*.qm")})) {
+        translations += file.completeBaseName().sliced(prefix.size());
+    }
+    const QString translation = translationFor(locale.uiLanguages(), translations);
     auto translator = std::make_shared<QTranslator>();
     const bool isLoaded =
-        translator->load(locale, QStringLiteral("cdburner"), QStringLiteral("_"),
-                         ResourceLocator::folder() + QStringLiteral("/translations"));
+        !translation.isEmpty() && translator->load(folder.filePath(prefix + translation));
     setLocalizationTranslator(isLoaded ? translator : nullptr);
     return isLoaded;
 }

@@ -28,6 +28,7 @@ int barValue(double progress) {
 ProgressWindow::ProgressWindow(QWidget *parent)
     : QDialog(parent), ui_(std::make_unique<Ui::ProgressWindow>()) {
     ui_->setupUi(this);
+    setLayoutDirection(localizationDirection());
     setWindowModality(Qt::WindowModal);
     setWindowTitle(localizedString("CD Burner"));
     connect(ui_->btnCancel, &QPushButton::clicked, this, &ProgressWindow::clickCancel);

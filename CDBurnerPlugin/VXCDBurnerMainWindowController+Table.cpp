@@ -69,9 +69,11 @@ void VXCDBurnerMainWindowController::tableViewMouseOverRow(FilesTableView *table
     _btnDelete->setTag(row);
     const QRect rectangle = table != nullptr ? table->rectOfRow(row) : QRect();
     const QPoint corner = _filesTableView->viewport()->mapTo(_window, rectangle.topLeft());
-    const QRectF frame = deleteButtonFrame(QSizeF(rectangle.size()),
-                                           QPointF(corner.x(), _window->height() - corner.y()),
-                                           FilesTableView::deleteButtonSize);
+    const auto frameFor =
+        _window->isRightToLeft() ? mirroredDeleteButtonFrame : deleteButtonFrame;
+    const QRectF frame =
+        frameFor(QSizeF(rectangle.size()), QPointF(corner.x(), _window->height() - corner.y()),
+                 FilesTableView::deleteButtonSize);
     _btnDelete->show();
     _btnDelete->setGeometry(flippedToPainter(frame, _window->height()).toRect());
 }

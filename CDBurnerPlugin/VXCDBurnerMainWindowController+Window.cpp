@@ -48,6 +48,7 @@ MainWindow *VXCDBurnerMainWindowController::window() {
 
 void VXCDBurnerMainWindowController::windowDidLoad() {
     takeOutlets();
+    _window->setLayoutDirection(localizationDirection());
     _window->setWindowTitle(localizedString("CD Burner"));
     _txtNoneDevice->hide();
     _cdTypePopup->addItems({localizedString("Audio CD"), localizedString("Data CD")});

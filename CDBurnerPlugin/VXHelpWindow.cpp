@@ -54,6 +54,7 @@ VXHelpWindow::VXHelpWindow(QWidget *parent)
       text_(new QLabel(helpText())) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoMouseReplay);
+    setLayoutDirection(localizationDirection());
     setWindowTitle(localizedString("Help"));
     setAccessibleName(localizedString("Help"));
     auto *bubble = new VXHelpView(this);

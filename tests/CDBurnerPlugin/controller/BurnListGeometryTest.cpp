@@ -17,6 +17,10 @@ TEST(DeleteButtonFrame, HangsBelowTheCornerOfARowThatIsNotThere) {
     EXPECT_EQ(deleteButtonFrame({0, 0}, {10, 500}, 22), QRectF(-12, 489, 22, 22));
 }
 
+TEST(DeleteButtonFrame, StandsAtTheLeftEndWhereRowsRunFromRightToLeft) {
+    EXPECT_EQ(mirroredDeleteButtonFrame({400, 30}, {10, 500}, 22), QRectF(10, 474, 22, 22));
+}
+
 TEST(RowsAfterMove, StandWhereTheBlockLands) {
     EXPECT_EQ(rowsAfterMove({1, 2}, 5), (IndexSet{3, 4}));
     EXPECT_EQ(rowsAfterMove({4, 5}, 1), (IndexSet{1, 2}));
