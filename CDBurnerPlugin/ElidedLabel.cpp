@@ -26,6 +26,7 @@ QString ElidedLabel::shownText() const {
 
 void ElidedLabel::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection()); // By itself it has the application's.
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(side) | Qt::TextSingleLine,
                           palette(), isEnabled(), shownText(), foregroundRole());

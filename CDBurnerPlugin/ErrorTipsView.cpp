@@ -77,6 +77,7 @@ void ErrorTipsView::drawRect(QPainter &painter, double scale) const {
     // The width that was measured may fall a rounding error short of itself.
     const QString line = metrics.elidedText(_errorTips, Qt::ElideRight, layout.text.width() + 0.01);
     painter.setFont(lineFont);
+    painter.setLayoutDirection(layoutDirection()); // By itself it has the application's.
     painter.setPen(palette().color(QPalette::WindowText));
     const Qt::Alignment alignment =
         QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;

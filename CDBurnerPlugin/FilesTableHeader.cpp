@@ -18,6 +18,7 @@ void FilesTableHeader::paintSection(QPainter *painter, const QRect &rect, int lo
     initStyleOptionForIndex(&option, logicalIndex);
     option.rect = rect;
     painter->save();
+    painter->setLayoutDirection(layoutDirection()); // By itself it has the application's.
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
     // A cell has this margin on both sides of its text and of the room beside it.
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>يحفظ الملفات والمجلدات لأجهزة الكمبيوتر كما هي. يتسع لنحو 700 ميغابايت.</translation>
+        <translation>يحفظ الملفات والمجلدات لأجهزة الكمبيوتر كما هي. يتسع لنحو 700&#xa0;ميغابايت.</translation>
     </message>
     <message>
         <source>What you need</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>Bewahrt Dateien und Ordner für Computer unverändert auf. Fasst rund 700 MB.</translation>
+        <translation>Bewahrt Dateien und Ordner für Computer unverändert auf. Fasst rund 700&#xa0;MB.</translation>
     </message>
     <message>
         <source>What you need</source>

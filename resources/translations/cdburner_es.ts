@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>Conserva archivos y carpetas para ordenadores, tal como son. Admite unos 700 MB.</translation>
+        <translation>Conserva archivos y carpetas para ordenadores, tal como son. Admite unos 700&#xa0;MB.</translation>
     </message>
     <message>
         <source>What you need</source>

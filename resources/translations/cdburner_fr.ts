@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>Conserve les fichiers et les dossiers tels quels pour les ordinateurs. Contient environ 700 Mo.</translation>
+        <translation>Conserve les fichiers et les dossiers tels quels pour les ordinateurs. Contient environ 700&#xa0;Mo.</translation>
     </message>
     <message>
         <source>What you need</source>

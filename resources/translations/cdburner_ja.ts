@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>ファイルとフォルダーをコンピューター用にそのまま保存します。約 700 MB 入ります。</translation>
+        <translation>ファイルとフォルダーをコンピューター用にそのまま保存します。約 700&#xa0;MB 入ります。</translation>
     </message>
     <message>
         <source>What you need</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>Guarda arquivos e pastas para computadores, do jeito que são. Comporta cerca de 700 MB.</translation>
+        <translation>Guarda arquivos e pastas para computadores, do jeito que são. Comporta cerca de 700&#xa0;MB.</translation>
     </message>
     <message>
         <source>What you need</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>Хранит файлы и папки для компьютеров без изменений. Вмещает около 700 МБ.</translation>
+        <translation>Хранит файлы и папки для компьютеров без изменений. Вмещает около 700&#xa0;МБ.</translation>
     </message>
     <message>
         <source>What you need</source>

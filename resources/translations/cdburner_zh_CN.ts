@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Keeps files and folders for computers, just as they are. Holds about 700 MB.</source>
-        <translation>为电脑原样保存文件和文件夹。约可容纳 700 MB。</translation>
+        <translation>为电脑原样保存文件和文件夹。约可容纳 700&#xa0;MB。</translation>
     </message>
     <message>
         <source>What you need</source>

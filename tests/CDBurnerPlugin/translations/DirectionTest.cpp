@@ -33,6 +33,15 @@ protected:
     ~LeftToRight() override { QApplication::setLayoutDirection(Qt::LeftToRight); }
 };
 
+/// The pictures of all that paints texts by itself or has them painted by the style.
+QList<QImage> picturesOf(const std::vector<QWidget *> &widgets) {
+    QList<QImage> pictures;
+    for (QWidget *const widget : widgets) {
+        pictures += widget->grab().toImage();
+    }
+    return pictures;
+}
+
 int xInWindow(const QWidget &widget) {
     return widget.mapTo(widget.window(), QPoint()).x();
 }
@@ -108,4 +117,37 @@ TEST_F(RightToLeft, TheHelpBubbleReachesBeyondTheBoxsLeftEdge) {
     EXPECT_LT(bubble->x(), help->mapToGlobal(QPoint()).x());
     EXPECT_GT(bubble->geometry().right(), help->mapToGlobal(QPoint()).x());
     bubble->endFakeMenu();
+}
+
+// A painter has the application's direction by itself: what paints in the window must not ask it.
+TEST_F(RightToLeft, LooksTheSameInAHostOfEitherDirection) {
+    open(); // Without a drive: the tip is shown.
+    send(engine.audio(), [](ScorchDelegate &burn) { burn.burnProgressIsFinishing(); });
+    const std::vector<QWidget *> widgets = {controller->window(), sheet(),
+                                            find<ErrorTipsView>("_errorTipsView"),
+                                            table()->horizontalHeader()};
+    const QList<QImage> inHostOfOtherDirection = picturesOf(widgets);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    const QList<QImage> inHostOfSameDirection = picturesOf(widgets);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(inHostOfOtherDirection, inHostOfSameDirection);
+}
+
+TEST_F(RightToLeft, TitlesStandWhereTheTextsBelowThemStart) {
+    open();
+    QHeaderView *const header = table()->horizontalHeader();
+    const QImage picture = header->grab().toImage();
+    const auto isDark = [&picture](int x) {
+        for (int y = 2; y < picture.height() - 2; ++y) {
+            if (picture.pixelColor(x, y).lightness() < 100) {
+                return true;
+            }
+        }
+        return false;
+    };
+    int darkAtTheRight = 0;
+    for (int x = picture.width() - 60; x < picture.width(); ++x) {
+        darkAtTheRight += isDark(x) ? 1 : 0;
+    }
+    EXPECT_GT(darkAtTheRight, 5);
 }
