@@ -188,17 +188,32 @@ std::optional<SourceFailure> MediaFile::chooseStream() {
     return std::nullopt;
 }
 
+std::optional<std::uint64_t> MediaFile::sampleLimit(std::uint32_t decoderRate) const {
+    if (!limit_ || limit_->rate == 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(
+        av_rescale(static_cast<std::int64_t>(limit_->samples), decoderRate, limit_->rate));
+}
+
 /// MP3 tells in its first frame what an encoder added at the end; MP4 in its tables, or in a note
 /// of the encoder that needs no rounding.
 void MediaFile::findSampleLimit() {
     if (mpegAudio_) {
         if (mpegAudio_->uniform) {
-            sampleLimit_ = mpegAudio_->length;
+            limit_ = {mpegAudio_->length, mpegAudio_->sampleRate};
         }
         return;
     }
     if (!container().starts_with("mov") || parameters().codec_id != AV_CODEC_ID_AAC) {
         return;
+    }
+    const std::optional<Mp4Index> index = readMp4Index(*input_);
+    if (!index || index->soundTracks != 1) {
+        return;
+    }
+    if (index->samples) {
+        limit_ = {*index->samples, index->timeScale};
     }
     const AVDictionaryEntry *note = av_dict_get(format_->metadata, "iTunSMPB", nullptr, 0);
     unsigned delay = 0;
@@ -206,15 +221,8 @@ void MediaFile::findSampleLimit() {
     unsigned long long samples = 0;
     if (note != nullptr &&
         std::sscanf(note->value, " %*x %x %x %llx", &delay, &padding, &samples) == 3 &&
-        samples > 0) {
-        sampleLimit_ = samples;
-        return;
-    }
-    const std::optional<Mp4Index> index = readMp4Index(*input_);
-    const bool isSameScale =
-        index && static_cast<std::int64_t>(index->timeScale) == parameters().sample_rate;
-    if (isSameScale && index->soundTracks == 1) {
-        sampleLimit_ = index->samples;
+        samples > 0 && delay + padding + samples == index->mediaDuration) {
+        limit_ = {samples, index->timeScale};
     }
 }
 

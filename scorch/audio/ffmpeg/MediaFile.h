@@ -36,9 +36,10 @@ public:
     /// parser, and the same frames when counting and when decoding.
     const std::optional<MpegAudioSummary> &mpegAudio() const { return mpegAudio_; }
 
-    /// How many samples, at the rate of the decoder, the song has once what the decoder takes off
-    /// at the start is gone; the rest is the encoder's padding. Nothing if the packets tell.
-    std::optional<std::uint64_t> sampleLimit() const { return sampleLimit_; }
+    /// How many samples at `decoderRate`, the rate that the decoder turns out to deliver, the song
+    /// has once what the decoder takes off at the start is gone; the rest is the encoder's padding.
+    /// Nothing if the packets tell.
+    std::optional<std::uint64_t> sampleLimit(std::uint32_t decoderRate) const;
 
 private:
     MediaFile() = default;
@@ -55,7 +56,13 @@ private:
     std::optional<MpegAudioSummary> mpegAudio_;
     std::optional<MpegAudioWalker> walker_;
     bool isFirstPacket_ = true;
-    std::optional<std::uint64_t> sampleLimit_;
+
+    /// A number of samples at a rate of its own: some encodings double the rate on their way.
+    struct Limit {
+        std::uint64_t samples = 0;
+        std::uint32_t rate = 0;
+    };
+    std::optional<Limit> limit_;
 };
 
 } // namespace scorch

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <vector>
 
@@ -179,6 +180,7 @@ private:
         ++result_.soundTracks;
         result_.isEncrypted = result_.isEncrypted || track.isEncrypted;
         result_.timeScale = track.timeScale;
+        result_.mediaDuration = track.mediaDuration;
         result_.samples = samplesOf(track, movieScale);
     }
 
@@ -205,7 +207,7 @@ private:
         if (edited + unit >= static_cast<double>(left)) {
             return left;
         }
-        return static_cast<std::uint64_t>(edited + 0.5);
+        return static_cast<std::uint64_t>(std::llround(edited));
     }
 
     FileInput &input_;

@@ -15,7 +15,8 @@ struct Mp4Index {
     /// The samples of the last sound track, encoder delay and padding taken off, in its own time
     /// scale; nothing where the file does not say, or where it says more than one edit.
     std::optional<std::uint64_t> samples;
-    std::uint32_t timeScale = 0; ///< Of that track: units a second.
+    std::uint64_t mediaDuration = 0; ///< Of that track, delay and padding included.
+    std::uint32_t timeScale = 0;     ///< Of that track: units a second.
 };
 
 /// Walks the boxes; nothing if the file has no movie box. Reads a few kilobytes and the table of

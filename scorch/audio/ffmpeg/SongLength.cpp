@@ -133,7 +133,7 @@ SourceResult<SourceLength> countPackets(MediaFile &file, SoundDecoder &decoder,
         return SourceLength();
     }
     const std::uint64_t samples = length.samples();
-    return SourceLength(std::min(samples, file.sampleLimit().value_or(samples)));
+    return SourceLength(std::min(samples, file.sampleLimit(rate).value_or(samples)));
 }
 
 /// Decodes until the first samples come: a file that passes has sound that can be decoded.
@@ -157,7 +157,7 @@ SourceResult<SourceLength> countQuickly(MediaFile &file, SoundDecoder &decoder) 
         length = confirmedFlacLength(file.input(), info);
     } else if ((file.container() == "wav" || file.container() == "aiff") &&
                isRawSound(parameters.codec_id)) {
-        const SourceResult<SourceLength> raw = countRawSamples(file);
+        SourceResult<SourceLength> raw = countRawSamples(file);
         if (!raw || !*raw) {
             return raw;
         }
@@ -168,7 +168,7 @@ SourceResult<SourceLength> countQuickly(MediaFile &file, SoundDecoder &decoder) 
             return cutOff("index points past the end");
         }
         std::uint32_t rate = 0;
-        const SourceResult<SourceLength> counted = countPackets(file, decoder, rate);
+        SourceResult<SourceLength> counted = countPackets(file, decoder, rate);
         if (!counted || !*counted) {
             return counted;
         }

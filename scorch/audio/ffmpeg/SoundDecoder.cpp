@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace scorch {
 namespace {
@@ -65,6 +66,9 @@ SourceFailure SoundDecoder::failureOf(int code) const {
 
 /// Takes off what lies behind the end of the song. False if nothing is left.
 bool SoundDecoder::cutAtLimit() {
+    if (!std::exchange(hasFrame_, true)) {
+        limit_ = file_.sampleLimit(static_cast<std::uint32_t>(std::max(frame_->sample_rate, 0)));
+    }
     if (!limit_) {
         return true;
     }

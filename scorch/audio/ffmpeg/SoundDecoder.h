@@ -28,7 +28,7 @@ public:
     SourceResult<AVFrame *> decode(const AVPacket &packet);
 
 private:
-    explicit SoundDecoder(MediaFile &file) : file_(file), limit_(file.sampleLimit()) {}
+    explicit SoundDecoder(MediaFile &file) : file_(file) {}
 
     SourceFailure failureOf(int code) const;
     bool cutAtLimit();
@@ -37,6 +37,7 @@ private:
     AvHandle<AVCodecContext> context_;
     AvHandle<AVPacket> packet_;
     AvHandle<AVFrame> frame_;
+    bool hasFrame_ = false;              ///< A first one came, and with it the rate.
     std::optional<std::uint64_t> limit_; ///< Samples that are still the song's.
 };
 

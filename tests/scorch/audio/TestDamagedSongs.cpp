@@ -97,7 +97,7 @@ TEST(DamagedSongs, HighEfficiencyAacIsCountedAtTheRateItDecodesTo) {
     ASSERT_NE(at, std::string::npos);
     // Object type 5 on 22.05 kHz, in stereo, at 44.1 kHz over type 2.
     bytes = replaced(bytes, at, "\x2B\x92\x08\x00\x00");
-    EXPECT_NEAR(static_cast<double>(lengthOf(bytes, "he.m4a")), songSamples, 3000);
+    EXPECT_EQ(lengthOf(bytes, "he.m4a"), songSamples + 1); // An odd number, halved and doubled.
 }
 
 TEST(DamagedSongs, DamageInTheMiddleIsAnErrorAtTheBurnAndNoSilence) {

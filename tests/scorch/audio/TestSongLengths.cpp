@@ -124,6 +124,32 @@ INSTANTIATE_TEST_SUITE_P(SongLengths, SongOfAnyLength,
                                     (encoder.param.second + 1);
                          });
 
+/// An M4A with a note of its encoder: samples of delay, of padding and of the song.
+std::filesystem::path withNote(const TemporaryFolder &folder, const std::string &numbers) {
+    const std::filesystem::path path = folder / "noted.m4a";
+    const CommandResult made =
+        runCommand({"ffmpeg", "-nostdin", "-v", "error", "-y", "-i", song("song.wav").string(),
+                    "-c:a", "aac", "-movflags", "use_metadata_tags", "-metadata",
+                    "iTunSMPB= 00000000 " + numbers, path.string()});
+    EXPECT_EQ(made.exitCode, 0) << made.output;
+    return path;
+}
+
+TEST(SongLengths, EncodersNoteInAnM4aCountsWhereItAddsUp) {
+    const TemporaryFolder folder;
+    // 1024 + 256 + 233521 is what the tables of the file come to.
+    const std::filesystem::path path = withNote(folder, "00000400 00000100 0000000000039031");
+    EXPECT_EQ(accepted(path).samples, 233521U);
+    EXPECT_EQ(samplesIn(decoded(path)), 233521U);
+}
+
+TEST(SongLengths, EncodersNoteInAnM4aThatCannotBeIsIgnored) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(accepted(withNote(folder, "00000400 00000100 0000000000001000")).samples,
+              songSamples);
+    EXPECT_EQ(accepted(withNote(folder, "nonsense")).samples, songSamples);
+}
+
 // Decoding all of a song to count it takes a second where its packets tell in a hundredth.
 TEST(SongLengths, VorbisIsCountedByItsPackets) {
     std::unique_ptr<scorch::MediaFile> file =
