@@ -142,7 +142,7 @@ TEST(CueSheet, TextInTheLeadInIsKeptUntilItRepeats) {
     TextPack pack = {0x80, 1, 0, 0, 'A', 0};
     put16(pack, 16, subChannelCrc(ByteView(pack).first(16)));
     Bytes block(kSubChannelBytes, 0);
-    for (std::size_t bit = 0; bit < 4 * 18 * 8; ++bit) { // The same pack four times.
+    for (std::size_t bit = 0; bit < std::size_t{4} * 18 * 8; ++bit) { // The same pack four times.
         const unsigned value = pack[bit % 144 / 8] >> (7 - bit % 8) & 1U;
         block[bit / 6] = static_cast<Byte>(block[bit / 6] | value << (5 - bit % 6));
     }
