@@ -37,7 +37,8 @@ std::unique_ptr<Crate> Crate::create(const CommandLine &commandLine,
 
 Crate::Crate(const CommandLine &commandLine, const std::filesystem::path &toolFolder)
     : utilities_(loadTools(toolFolder, &HostContext::instance())),
-      window_(utilities_, commandLine.musicFolder.value_or(settings::musicFolder())) {
+      window_(utilities_,
+              commandLine.musicFolder ? *commandLine.musicFolder : settings::musicFolder()) {
     // Not quit, which would ask every window: who sends a signal does not wait for an answer.
     QObject::connect(&signals_, &QuitSignals::arrived, &window_, [] { QCoreApplication::exit(0); });
     QObject::connect(&window_, &MainWindow::quitAgreed, &window_,

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "crate/Crate.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+/// The host with the tool's window open, a music folder and a folder for disc images.
+class HostTest : public testing::Test {
+protected:
+    HostTest();
+    ~HostTest() override;
+
+    /// Starts the host, as its command line would.
+    void start(const std::vector<std::filesystem::path> &files = {});
+
+    /// Handles events until it is so; fails the test after a minute.
+    void waitUntil(const char *what, const std::function<bool()> &isSo) const;
+
+    VXUtilitiesTool &tool() { return *crate_->utilities().entries().front().tool; }
+    QWidget *toolWindow() { return tool().mainWindow(); }
+    /// A widget of the tool's window, by its name.
+    template <typename Widget>
+    Widget *part(const char *name) {
+        auto *widget = toolWindow()->findChild<Widget *>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+    /// The sheet, while it is up.
+    QDialog *sheet();
+    QPushButton *sheetButton();
+    int rows();
+
+    /// As a user chooses it from the popup.
+    void chooseDataDisc();
+    /// Files into the list, and waits for the end of the check.
+    void add(const std::vector<std::filesystem::path> &files, int expectedRows);
+    /// Waits for the Burn button and clicks it; the sheet is up when it returns.
+    void clickBurn();
+    /// The same, to the end of the burn.
+    void burn(const QString &name);
+    /// A list with one file or song that takes long to write, and its burn under way.
+    void startLongBurn();
+    void startLongAudioBurn();
+
+    /// The names in the folder of images, hidden ones included, sorted.
+    std::vector<std::string> images() const;
+    /// The keys of the usage events so far, in order.
+    std::vector<std::string> usageEvents() const;
+
+    TemporaryFolder folder_;
+    std::filesystem::path imageFolder_;
+    std::filesystem::path musicFolder_;
+    crate::CommandLine commandLine_;
+    std::unique_ptr<crate::Crate> crate_;
+};
+
+/// A file of the test media.
+std::filesystem::path medium(const char *name);

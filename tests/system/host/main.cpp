@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/TemporaryFolder.h"
+
+#include <QApplication>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char *argv[]) {
+    const TemporaryFolder home; // Nobody's settings are read or written.
+    qputenv("HOME", home.path().c_str());
+    qputenv("XDG_CONFIG_HOME", (home.path() / "config").c_str());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    testing::InitGoogleMock(&argc, argv);
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}
