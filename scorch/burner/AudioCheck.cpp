@@ -45,7 +45,6 @@ public:
           queue_(queue),
           sink_(sink),
           stop_(stop),
-          gate_(services.clock),
           pool_(services.probe, services.threads, stop) {}
 
     CheckRefusals run();
@@ -59,7 +58,6 @@ private:
     CheckQueue &queue_;
     CheckSink &sink_;
     const std::stop_token &stop_;
-    ReportGate gate_;
     std::int64_t reported_ = -1; ///< Files that had been looked at when the last report was made.
     CheckRefusals refusals_;
     ProbePool pool_;
@@ -97,7 +95,7 @@ void SongCheck::takeFiles() {
 
 void SongCheck::reportNext() {
     const bool isNews = reported_ != queue_.looked;
-    if (isNews && gate_.open()) {
+    if (isNews && mayReport(queue_, services_.clock())) {
         reported_ = queue_.looked;
         const std::string name = readableText(pool_.next().filename().native());
         sink_.progressed({name, queue_.looked + 1, queue_.count});

@@ -36,24 +36,14 @@ struct CheckRefusals {
 using CheckFunction =
     std::function<CheckRefusals(CheckQueue &, CheckSink &, const std::stop_token &)>;
 
-/// Lets a report through at most four times a second: enough to read, and no load for a window.
-class ReportGate {
-public:
-    explicit ReportGate(Clock clock) : clock_(std::move(clock)) {}
-
-    /// Whether a report may be made now; if so it counts as made.
-    bool open() {
-        const Moment now = clock_();
-        if (last_ && now - *last_ < std::chrono::milliseconds(250)) {
-            return false;
-        }
-        last_ = now;
-        return true;
+/// Whether a report may be made now; if so it counts as made. At most four a second over the whole
+/// run of a check: enough to read, and no load for a window.
+inline bool mayReport(CheckQueue &queue, Moment now) {
+    if (queue.reportedAt && now - *queue.reportedAt < std::chrono::milliseconds(250)) {
+        return false;
     }
-
-private:
-    const Clock clock_;
-    std::optional<Moment> last_;
-};
+    queue.reportedAt = now;
+    return true;
+}
 
 } // namespace scorch

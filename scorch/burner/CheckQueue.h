@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/BurnFile.h"
+#include "scorch/support/Clock.h"
 
 #include <cstdint>
 #include <mutex>
@@ -48,8 +49,9 @@ public:
     }
 
     // Counted over the whole run, by the thread that checks.
-    std::int64_t looked = 0; ///< Files looked at so far.
-    std::int64_t count = 0;  ///< Files known of.
+    std::int64_t looked = 0;          ///< Files looked at so far.
+    std::int64_t count = 0;           ///< Files known of.
+    std::optional<Moment> reportedAt; ///< When the last report was made.
 
 private:
     std::optional<Files> takeLocked() {

@@ -41,7 +41,7 @@ class FileCheck {
 public:
     FileCheck(const DataCheckServices &services, CheckQueue &queue, CheckSink &sink,
               const std::stop_token &stop)
-        : services_(services), queue_(queue), sink_(sink), stop_(stop), gate_(services.clock) {}
+        : services_(services), queue_(queue), sink_(sink), stop_(stop) {}
 
     CheckRefusals run();
 
@@ -54,7 +54,6 @@ private:
     CheckQueue &queue_;
     CheckSink &sink_;
     const std::stop_token &stop_;
-    ReportGate gate_;
     std::deque<BurnFile> files_;
     CheckRefusals refusals_;
 };
@@ -108,7 +107,7 @@ void FileCheck::scan(const std::filesystem::path &path) {
 void FileCheck::lookedAt(const std::filesystem::path &file) {
     ++queue_.looked;
     queue_.count = std::max(queue_.count, queue_.looked); // The folder grew meanwhile.
-    if (gate_.open()) {
+    if (mayReport(queue_, services_.clock())) {
         sink_.progressed({readableText(file.filename().native()), queue_.looked, queue_.count});
     }
 }

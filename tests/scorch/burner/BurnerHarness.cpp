@@ -98,7 +98,7 @@ std::shared_ptr<Burner> BurnerHarness::makeAudioBurner() {
                               const std::stop_token &stop) -> AudioProbe {
         const std::string name = path.filename().string();
         if (onProbe_) {
-            const AudioProbe answer = onProbe_(name, stop);
+            AudioProbe answer = onProbe_(name, stop);
             if (!std::holds_alternative<AudioInfo>(answer)) {
                 return answer;
             }
@@ -111,7 +111,7 @@ std::shared_ptr<Burner> BurnerHarness::makeAudioBurner() {
         return AudioFileList{files, {}};
     };
     const auto makeFeeder =
-        [](std::vector<AudioTrackRequest> tracks) -> Result<std::unique_ptr<AudioFeeder>> {
+        [](const std::vector<AudioTrackRequest> &tracks) -> Result<std::unique_ptr<AudioFeeder>> {
         return std::unique_ptr<AudioFeeder>(std::make_unique<FakeFeeder>(tracks));
     };
     return Burner::create(
@@ -161,6 +161,7 @@ std::shared_ptr<Burner> BurnerHarness::makeDataBurner() {
 
 std::vector<BurnFile> BurnerHarness::files(const std::vector<std::string> &names) {
     std::vector<BurnFile> files;
+    files.reserve(names.size());
     for (const std::string &name : names) {
         files.push_back({folder_.write(name, name), {}, {}});
     }

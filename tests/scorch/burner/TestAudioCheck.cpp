@@ -33,7 +33,7 @@ protected:
             return AudioFileList{files, {}};
         };
         services_.probe = [](const std::filesystem::path &path, const std::stop_token &) {
-            return AudioProbe(AudioInfo{588 * 400, "", path.filename().string(), ""});
+            return AudioProbe(AudioInfo{235'200, "", path.filename().string(), ""});
         };
         services_.threads = 2;
         services_.clock = [this] {
@@ -42,6 +42,7 @@ protected:
     }
     CheckRefusals run(const std::vector<std::string> &names) {
         std::vector<BurnFile> files;
+        files.reserve(names.size());
         for (const std::string &name : names) {
             files.push_back({name, {}, {}});
         }
@@ -121,14 +122,14 @@ TEST_F(AudioCheckTest, RefusalsAreSortedByTheirReason) {
 
 TEST_F(AudioCheckTest, AnItemHasItsSectorsAndKnowsItsWords) {
     services_.probe = [](const std::filesystem::path &, const std::stop_token &) {
-        return AudioProbe(AudioInfo{588 * 400 + 1, "Tag artist", "Tag title", ""});
+        return AudioProbe(AudioInfo{235'201, "Tag artist", "Tag title", ""});
     };
     std::vector<BurnFile> files = {{"a.mp3", "Artist", ""}};
     queue_.join(files);
     checkSongs(services_, queue_, sink_, {});
     ASSERT_EQ(sink_.items.size(), 1U);
     EXPECT_EQ(sink_.items[0]->sectors, 401);
-    EXPECT_EQ(sink_.items[0]->samples, 588U * 400 + 1);
+    EXPECT_EQ(sink_.items[0]->samples, 235'201U);
     EXPECT_EQ(sink_.items[0]->artist, "Artist");
     EXPECT_EQ(sink_.items[0]->title, "Tag title");
 }

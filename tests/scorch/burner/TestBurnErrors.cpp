@@ -9,7 +9,7 @@ using namespace scorch;
 using testing::HasSubstr;
 
 TEST(BurnErrors, WhatDoesNotFitIsTimesForSoundAndSizesForData) {
-    const ScorchError sound = doesNotFitError(TrackKind::audio, 80 * 4500, 359'849);
+    const ScorchError sound = doesNotFitError(TrackKind::audio, 360'000, 359'849);
     EXPECT_EQ(sound.category(), ScorchErrorCode::doesNotFit);
     EXPECT_THAT(sound.localizedDescription(), HasSubstr("80:00"));
     EXPECT_THAT(sound.localizedDescription(), HasSubstr("79:57"));

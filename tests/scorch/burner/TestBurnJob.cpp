@@ -44,7 +44,7 @@ public:
 
 class BurnJobTest : public testing::Test {
 protected:
-    BurnEnd run(TrackKind kind, std::vector<std::int64_t> sectors) {
+    BurnEnd run(TrackKind kind, const std::vector<std::int64_t> &sectors) {
         request_.drive = drive_;
         request_.makeContent = [this, kind, sectors](const std::stop_token &) {
             auto content = std::make_unique<FakeContent>(kind, sectors, "Name");

@@ -70,6 +70,7 @@ TEST_F(BurnerBurning, AnEmptyListIsAPlainError) {
 
 TEST_F(BurnerBurning, MoreThan99TracksAreAPlainError) {
     std::vector<std::string> names;
+    names.reserve(97);
     for (int index = 0; index < 97; ++index) {
         names.push_back("song " + std::to_string(index));
     }

@@ -9,7 +9,7 @@ using testing::ElementsAre;
 namespace {
 
 /// Of the harness: what an image without files takes.
-constexpr std::uint64_t emptyImage = 183 * 2048;
+constexpr std::uint64_t emptyImage = 183 * std::uint64_t{2048};
 
 class DataCapacity : public BurnerHarness {
 protected:

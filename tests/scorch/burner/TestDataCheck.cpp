@@ -64,6 +64,7 @@ protected:
     }
     CheckRefusals run(const std::vector<std::string> &names) {
         std::vector<BurnFile> files;
+        files.reserve(names.size());
         for (const std::string &name : names) {
             files.push_back({name, {}, {}});
         }
