@@ -83,7 +83,8 @@ std::uint64_t lengthOf(const std::string &bytes) {
     return counted;
 }
 
-constexpr std::uint64_t bareSamples = 204 * 1152; // song-vbr-bare.mp3, as ffmpeg decodes it.
+constexpr std::uint64_t bareSamples =
+    std::uint64_t{204} * 1152; // song-vbr-bare.mp3, as ffmpeg decodes it.
 
 TEST(MpegAudio, VariableRateWithoutAHeaderIsRightToTheFrame) {
     EXPECT_EQ(accepted(song("song-vbr-bare.mp3")).samples, bareSamples);
@@ -108,7 +109,7 @@ TEST(MpegAudio, JunkBetweenFramesCostsNoSong) {
     const std::string damaged = frames.substr(0, 20000) + junk(3000) + frames.substr(20000);
     const std::uint64_t length = lengthOf(damaged);
     EXPECT_LE(length, bareSamples);
-    EXPECT_GE(length, bareSamples - 2 * 1152);
+    EXPECT_GE(length, bareSamples - std::uint64_t{2} * 1152);
 }
 
 TEST(MpegAudio, JoinedFilesPlayOneBehindTheOther) {

@@ -122,7 +122,7 @@ ScorchError errorOf(const scorch::Outcome<std::string> &outcome) {
 TEST(ReadAheadFeeder, SongsArriveWholeAndInOrder) {
     FakeSongs songs;
     std::vector<AudioTrackRequest> requests;
-    const std::vector<std::uint64_t> lengths = {200000, 588 * 300, 588 * 300 + 1, 400123, 199999};
+    const std::vector<std::uint64_t> lengths = {200000, 176400, 176401, 400123, 199999};
     for (std::size_t i = 0; i < lengths.size(); ++i) {
         songs.songs["s" + std::to_string(i)] = {.samples = lengths[i], .failure = {}};
         requests.push_back({"s" + std::to_string(i), lengths[i]});

@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(SongLengths, SongOfAnyLength,
 
 /// An M4A with a note of its encoder: samples of delay, of padding and of the song.
 std::filesystem::path withNote(const TemporaryFolder &folder, const std::string &numbers) {
-    const std::filesystem::path path = folder / "noted.m4a";
+    std::filesystem::path path = folder / "noted.m4a";
     const CommandResult made =
         runCommand({"ffmpeg", "-nostdin", "-v", "error", "-y", "-i", song("song.wav").string(),
                     "-c:a", "aac", "-movflags", "use_metadata_tags", "-metadata",
