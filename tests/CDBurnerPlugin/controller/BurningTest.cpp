@@ -104,7 +104,7 @@ TEST_F(Burning, StagesChangeTheTextsAndLeaveTheBar) {
 TEST_F(Burning, ProgressMovesTheBarAndTellsTheTimeLeft) {
     openBurning();
     send(engine.audio(),
-         [](ScorchDelegate &d) { d.burnProgressDidChanagedLefttime(0.25, 75 * 83); });
+         [](ScorchDelegate &d) { d.burnProgressDidChanagedLefttime(0.25, UINT64_C(75) * 83); });
     EXPECT_DOUBLE_EQ(sheet()->progress(), 0.25);
     EXPECT_EQ(tips(), "Left time - 1:23");
     EXPECT_EQ(name(), "Burning 'Road %@ trip'");

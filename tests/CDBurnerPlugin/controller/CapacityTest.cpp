@@ -24,7 +24,7 @@ namespace {
 const QColor darkGreen = QColor::fromRgbF(0.0F, 0.5F, 0.0F);
 const QColor red = QColor::fromRgbF(1.0F, 0.0F, 0.0F);
 const QColor grey = QColor::fromRgbF(0.5F, 0.5F, 0.5F);
-constexpr std::int64_t minute = 60 * 75;
+constexpr std::int64_t minute = INT64_C(60) * 75;
 
 } // namespace
 

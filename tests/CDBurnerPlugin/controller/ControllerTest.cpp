@@ -44,7 +44,7 @@ void ControllerTest::openWithBlankDisc() {
 
 void ControllerTest::openWithSongs(int count) {
     for (int number = 1; number <= count; ++number) {
-        engine.audio().append("Song " + std::to_string(number), 75 * number);
+        engine.audio().append("Song " + std::to_string(number), INT64_C(75) * number);
     }
     openWithBlankDisc();
 }
@@ -74,6 +74,7 @@ std::string ControllerTest::infoTitle() const {
 
 std::vector<std::string> ControllerTest::deviceTitles() const {
     std::vector<std::string> titles;
+    titles.reserve(static_cast<std::size_t>(devicePopup()->count()));
     for (int index = 0; index < devicePopup()->count(); ++index) {
         titles.push_back(devicePopup()->itemText(index).toStdString());
     }
