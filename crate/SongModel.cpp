@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 #include <utility>
 
 namespace crate {
@@ -13,21 +14,24 @@ namespace crate {
 SongModel::SongModel(QObject *parent) : QAbstractTableModel(parent) {}
 
 void SongModel::addSongs(const std::vector<SongRow> &songs) {
-    const SongIndex first = songs_.size();
+    std::vector<SongIndex> added(songs.size());
+    std::iota(added.begin(), added.end(), songs_.size());
     songs_.insert(songs_.end(), songs.begin(), songs.end());
-    const std::vector<SongIndex> added = matchingFrom(first);
-    if (!added.empty()) {
-        const auto formerCount = static_cast<std::ptrdiff_t>(visible_.size());
-        beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(added.size()) - 1);
-        visible_.insert(visible_.end(), added.begin(), added.end());
+    sortSongs(added);
+    mergeInto(sorted_, added);
+    const std::vector<SongIndex> shown = matching(added);
+    if (!shown.empty()) {
+        std::vector<SongIndex> merged = words_.isEmpty() ? sorted_ : visible_;
+        if (!words_.isEmpty()) {
+            mergeInto(merged, shown);
+        }
+        // Views know rows at the end more cheaply than many single ones in between; nothing is
+        // painted before they stand in their places.
+        beginInsertRows({}, rowCount(), rowCount() + static_cast<int>(shown.size()) - 1);
+        visible_.insert(visible_.end(), shown.begin(), shown.end());
         endInsertRows();
-        // Views know rows at the end more cheaply than a thousand single ones in between; nothing
-        // is painted before they stand in their places.
-        std::vector<SongIndex> merged = visible_;
-        std::inplace_merge(merged.begin(), merged.begin() + formerCount, merged.end(),
-                           [this](SongIndex a, SongIndex b) { return isBefore(a, b); });
         reorder(std::move(merged));
-        addLengthOf(added);
+        addLengthOf(shown);
     }
     emit contentChanged();
 }
@@ -35,6 +39,7 @@ void SongModel::addSongs(const std::vector<SongRow> &songs) {
 void SongModel::clear() {
     beginResetModel();
     songs_.clear();
+    sorted_.clear();
     visible_.clear();
     visibleLength_ = {};
     endResetModel();
@@ -48,7 +53,7 @@ void SongModel::setSearch(const QString &text) {
     }
     words_ = words;
     beginResetModel();
-    visible_ = matchingFrom(0);
+    visible_ = matching(sorted_);
     visibleLength_ = {};
     addLengthOf(visible_);
     endResetModel();
@@ -143,7 +148,8 @@ void SongModel::sort(int column, Qt::SortOrder order) {
     }
     sortColumn_ = static_cast<SongColumn>(column);
     sortOrder_ = order;
-    reorder(matchingFrom(0));
+    sortSongs(sorted_);
+    reorder(matching(sorted_));
 }
 
 bool SongModel::isBefore(SongIndex a, SongIndex b) const {
@@ -151,16 +157,36 @@ bool SongModel::isBefore(SongIndex a, SongIndex b) const {
     return sortOrder_ == Qt::AscendingOrder ? order < 0 : order > 0;
 }
 
-std::vector<SongModel::SongIndex> SongModel::matchingFrom(SongIndex first) const {
-    std::vector<SongIndex> matching;
-    for (SongIndex index = first; index < songs_.size(); ++index) {
-        if (matches(songs_[index], words_)) {
-            matching.push_back(index);
-        }
-    }
-    std::sort(matching.begin(), matching.end(),
+void SongModel::sortSongs(std::vector<SongIndex> &songs) const {
+    std::sort(songs.begin(), songs.end(),
               [this](SongIndex a, SongIndex b) { return isBefore(a, b); });
-    return matching;
+}
+
+void SongModel::mergeInto(std::vector<SongIndex> &songs,
+                          const std::vector<SongIndex> &added) const {
+    std::vector<SongIndex> merged;
+    merged.reserve(songs.size() + added.size());
+    auto rest = songs.cbegin();
+    for (const SongIndex song : added) {
+        // A look-up, since comparing songs costs more than copying their places.
+        const auto place = std::upper_bound(
+            rest, songs.cend(), song, [this](SongIndex a, SongIndex b) { return isBefore(a, b); });
+        merged.insert(merged.end(), rest, place);
+        merged.push_back(song);
+        rest = place;
+    }
+    merged.insert(merged.end(), rest, songs.cend());
+    songs = std::move(merged);
+}
+
+std::vector<SongModel::SongIndex> SongModel::matching(const std::vector<SongIndex> &songs) const {
+    if (words_.isEmpty()) {
+        return songs;
+    }
+    std::vector<SongIndex> found;
+    std::copy_if(songs.begin(), songs.end(), std::back_inserter(found),
+                 [this](SongIndex song) { return matches(songs_[song], words_); });
+    return found;
 }
 
 void SongModel::reorder(std::vector<SongIndex> order) {

@@ -7,13 +7,14 @@
 
 #include <chrono>
 #include <cstddef>
+#include <deque>
 #include <vector>
 
 namespace crate {
 
 /// The songs of the library: those that match the search, in the order that the user chose. Holds
 /// the songs and sorts them itself, by keys computed beforehand: adding a portion to a list of
-/// 20 000 is a merge, not a sort. Main thread.
+/// 20 000 looks up a place for each and sorts nothing. Main thread.
 class SongModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -53,14 +54,18 @@ private:
     using SongIndex = std::size_t;
 
     bool isBefore(SongIndex a, SongIndex b) const;
-    /// The songs from `first` on that match, sorted.
-    std::vector<SongIndex> matchingFrom(SongIndex first) const;
+    void sortSongs(std::vector<SongIndex> &songs) const;
+    /// `added`, which are sorted, into their places in `songs`, which are too.
+    void mergeInto(std::vector<SongIndex> &songs, const std::vector<SongIndex> &added) const;
+    /// Those of `songs` that match, in the same order.
+    std::vector<SongIndex> matching(const std::vector<SongIndex> &songs) const;
     /// Another order of the same visible songs.
     void reorder(std::vector<SongIndex> order);
     void addLengthOf(const std::vector<SongIndex> &songs);
     QVariant textAt(const LibrarySong &song, SongColumn column) const;
 
-    std::vector<SongRow> songs_;     ///< In the order of arrival.
+    std::deque<SongRow> songs_;      ///< In the order of arrival; never moved.
+    std::vector<SongIndex> sorted_;  ///< All of them, so that a search need not sort.
     std::vector<SongIndex> visible_; ///< Row by row.
     QStringList words_;
     SongColumn sortColumn_ = SongColumn::artist;

@@ -17,8 +17,8 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds portionTime{150};
-/// What the main thread takes in without anyone noticing.
-constexpr std::size_t portionSongs = 1000;
+/// What the main thread takes in within a frame of the screen, in a list of 20 000.
+constexpr std::size_t portionSongs = 200;
 
 /// How much nicer to the rest of the machine: a burn that runs meanwhile comes first.
 constexpr int niceness = 10;

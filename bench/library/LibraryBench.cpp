@@ -24,7 +24,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t portion = 1000;
+constexpr std::size_t portion = 200; // What the scan hands over at once.
 
 /// As songs of many artists arrive, which is in no order.
 std::vector<crate::SongRow> makeSongs(std::size_t count) {
@@ -81,7 +81,7 @@ int main(int argc, char *argv[]) {
     QApplication::processEvents();
 
     {
-        Longest adding("adding 1000 found songs");
+        Longest adding("adding 200 found songs");
         for (std::size_t at = 0; at < songs.size(); at += portion) {
             const auto first = songs.begin() + static_cast<std::ptrdiff_t>(at);
             const auto last =
