@@ -71,7 +71,7 @@ void BurnCommand::start() {
     }
     state_ = State::checking;
     reporter_.step({BurnStage::checking});
-    if (!burner_->addFiles(files)) {
+    if (!burner_->addFiles(std::move(files))) {
         fail({ScorchErrorCode::burnerBusy, "The burner is busy."});
     }
 }

@@ -39,7 +39,7 @@ public:
     /// Starts to check the files and to add what this burner takes, in the order given; joins a
     /// check that is running. False, and nothing happens, for an empty list and while this burner
     /// burns.
-    virtual bool addFiles(const std::vector<BurnFile> &files) = 0;
+    virtual bool addFiles(std::vector<BurnFile> files) = 0;
     /// Ends a running check; what was accepted stays. Answered with addFilesProgressDidCanceled.
     /// Ignored when no check runs.
     virtual void cancelToAddFiles() = 0;

@@ -56,16 +56,16 @@ void Burner::CheckRun::progressed(CheckProgress progress) {
     });
 }
 
-bool Burner::addFiles(const std::vector<BurnFile> &files) {
+bool Burner::addFiles(std::vector<BurnFile> files) {
     if (files.empty() || burn_ != nullptr || ended_) {
         return false;
     }
     if (check_ == nullptr) {
-        startCheck(files);
+        startCheck(std::move(files));
     } else if (check_->cancelRequested) {
-        nextCheck_.insert(nextCheck_.end(), files.begin(), files.end());
+        std::move(files.begin(), files.end(), std::back_inserter(nextCheck_));
     } else {
-        check_->join(files);
+        check_->join(std::move(files));
     }
     return true;
 }

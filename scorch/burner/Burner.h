@@ -36,7 +36,7 @@ public:
     ~Burner() override;
 
     void setDelegate(ScorchDelegate *delegate) override;
-    bool addFiles(const std::vector<BurnFile> &files) override;
+    bool addFiles(std::vector<BurnFile> files) override;
     void cancelToAddFiles() override;
     void clearAll() override;
     void removeItem(const BurnItemRef &item) override;

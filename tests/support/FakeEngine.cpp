@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -80,9 +81,9 @@ std::vector<std::string> FakeScorcher::names() const {
     return result;
 }
 
-bool FakeScorcher::addFiles(const std::vector<BurnFile> &files) {
+bool FakeScorcher::addFiles(std::vector<BurnFile> files) {
     calls.emplace_back("addFiles");
-    addedFiles.push_back(files);
+    addedFiles.push_back(std::move(files));
     return acceptsFiles;
 }
 

@@ -54,7 +54,7 @@ public:
     std::vector<std::string> names() const;
 
     void setDelegate(ScorchDelegate *delegate) override { delegate_.set(delegate); }
-    bool addFiles(const std::vector<BurnFile> &files) override;
+    bool addFiles(std::vector<BurnFile> files) override;
     void cancelToAddFiles() override { calls.emplace_back("cancelToAddFiles"); }
     void clearAll() override;
     void removeItem(const BurnItemRef &item) override;
