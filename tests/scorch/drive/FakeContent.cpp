@@ -44,7 +44,8 @@ private:
 
 } // namespace
 
-FakeContent::FakeContent(TrackKind kind, std::vector<std::int64_t> sectors, std::string volumeName)
+FakeContent::FakeContent(TrackKind kind, const std::vector<std::int64_t> &sectors,
+                         std::string volumeName)
     : volumeName_(std::move(volumeName)) {
     for (const std::int64_t count : sectors) {
         tracks_.push_back({kind, count, {}, {}});

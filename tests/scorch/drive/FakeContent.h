@@ -15,7 +15,7 @@
 class FakeContent final : public scorch::DiscContent {
 public:
     /// `sectors` of each track.
-    FakeContent(scorch::TrackKind kind, std::vector<std::int64_t> sectors,
+    FakeContent(scorch::TrackKind kind, const std::vector<std::int64_t> &sectors,
                 std::string volumeName = "Disc");
 
     /// Called before each read with the sector of the disc that comes next; what it answers is the
