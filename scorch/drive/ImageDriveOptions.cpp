@@ -107,10 +107,12 @@ std::vector<ImageDriveOptions> parseImageDriveOptions(std::string_view setting,
 
 std::vector<std::string> imageDriveNames(const std::vector<ImageDriveOptions> &drives) {
     std::vector<std::string> lastComponents;
+    lastComponents.reserve(drives.size());
     for (const ImageDriveOptions &drive : drives) {
         lastComponents.push_back(readableText(lastComponent(drive.folder)));
     }
     std::vector<std::string> names;
+    names.reserve(drives.size());
     for (std::size_t index = 0; index < drives.size(); ++index) {
         const std::string &last = lastComponents[index];
         const bool alike = std::count(lastComponents.begin(), lastComponents.end(), last) > 1;
