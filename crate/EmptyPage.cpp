@@ -4,6 +4,7 @@
 #include "crate/Pictures.h"
 
 #include <QCoreApplication>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -25,7 +26,6 @@ QLabel *centredLabel(QWidget *parent, const char *name) {
     label->setAlignment(Qt::AlignCenter);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
-    label->setFixedWidth(textWidth);
     return label;
 }
 
@@ -43,14 +43,12 @@ std::optional<EmptyText> emptyTextFor(const ListState &state) {
         return EmptyText{translated("Looking for songs…"), state.folder, false};
     }
     if (!state.error.isEmpty()) {
-        return EmptyText{translated("The music folder cannot be read"),
-                         translated("%1: %2. Choose the folder that your music is in.")
-                             .arg(state.folder, state.error),
-                         true};
+        return EmptyText{
+            translated("The music folder cannot be read"),
+            translated("%1: %2. Choose another folder.").arg(state.folder, state.error), true};
     }
     return EmptyText{translated("No songs here yet"),
-                     translated("Put music into %1, or choose the folder that your music is in.")
-                         .arg(state.folder),
+                     translated("Put music into %1, or choose another folder.").arg(state.folder),
                      true};
 }
 
@@ -70,15 +68,22 @@ EmptyPage::EmptyPage(QWidget *parent)
     choose_->setObjectName(QStringLiteral("emptyChoose"));
     connect(choose_, &QPushButton::clicked, this, &EmptyPage::folderWanted);
 
-    auto *layout = new QVBoxLayout(this);
-    layout->addStretch(2);
-    layout->addWidget(image, 0, Qt::AlignHCenter);
-    layout->addSpacing(12);
-    layout->addWidget(heading_, 0, Qt::AlignHCenter);
-    layout->addWidget(text_, 0, Qt::AlignHCenter);
-    layout->addSpacing(12);
-    layout->addWidget(choose_, 0, Qt::AlignHCenter);
-    layout->addStretch(3);
+    // A column of fixed width, in which the texts get the height that their lines need.
+    auto *column = new QWidget(this);
+    column->setFixedWidth(textWidth);
+    auto *rows = new QVBoxLayout(column);
+    rows->addStretch(2);
+    rows->addWidget(image, 0, Qt::AlignHCenter);
+    rows->addSpacing(12);
+    rows->addWidget(heading_);
+    rows->addWidget(text_);
+    rows->addSpacing(12);
+    rows->addWidget(choose_, 0, Qt::AlignHCenter);
+    rows->addStretch(3);
+    auto *layout = new QHBoxLayout(this);
+    layout->addStretch();
+    layout->addWidget(column);
+    layout->addStretch();
 }
 
 void EmptyPage::setText(const EmptyText &text) {

@@ -232,6 +232,7 @@ std::optional<Run> measure(Display &display, const std::string &title, char *con
 
 double median(const std::vector<Run> &runs, double Run::*member) {
     std::vector<double> values;
+    values.reserve(runs.size());
     for (const Run &run : runs) {
         values.push_back(run.*member);
     }

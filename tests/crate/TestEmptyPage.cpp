@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/EmptyPage.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 
@@ -9,7 +10,6 @@
 namespace {
 
 using crate::EmptyPage;
-using crate::EmptyText;
 using crate::emptyTextFor;
 using crate::ListState;
 
@@ -69,6 +69,17 @@ TEST(EmptyPageWidget, ButtonIsThereWhenAnotherFolderMayHelp) {
               QStringLiteral("H"));
     button->click();
     EXPECT_EQ(wanted, 1);
+}
+
+TEST(EmptyPageWidget, LongTextIsNotCutOff) {
+    EmptyPage page;
+    page.resize(700, 500);
+    page.setText({QStringLiteral("Heading"), QStringLiteral("many words ").repeated(30), true});
+    page.show();
+    QCoreApplication::processEvents();
+    const auto *text = page.findChild<QLabel *>(QStringLiteral("emptyText"));
+    EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+    EXPECT_GT(text->height(), 2 * text->fontMetrics().height());
 }
 
 } // namespace

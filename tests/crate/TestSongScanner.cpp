@@ -15,7 +15,6 @@ namespace {
 using crate::SongRow;
 using crate::SongScanner;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class SongScannerTest : public testing::Test {
 protected:

@@ -38,7 +38,7 @@ std::filesystem::path longSong(const TemporaryFolder &folder) {
     // Format: PCM, two channels, four bytes a frame of 16 bits.
     const std::string format = std::string("\1\0\2\0", 4) + littleEndian(44'100) +
                                littleEndian(bytesPerSecond) + std::string("\4\0\x10\0", 4);
-    const std::filesystem::path file =
+    std::filesystem::path file =
         folder.write("long.wav", "RIFF" + littleEndian(dataBytes + headerBytes - 8) + "WAVEfmt " +
                                      littleEndian(16) + format + "data" + littleEndian(dataBytes));
     std::filesystem::resize_file(file, dataBytes + headerBytes);
