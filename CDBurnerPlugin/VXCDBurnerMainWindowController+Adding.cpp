@@ -32,6 +32,7 @@ void VXCDBurnerMainWindowController::addFiles(const SongList &files) {
 }
 
 void VXCDBurnerMainWindowController::addFilesProgressDidStarted() {
+    followBusyBurner();
     _progressWindow->setType(ProgressWindow::addingFilesType);
     _progressWindow->defaultButton()->setText(localizedString("Cancel"));
     _progressWindow->updateProgressByNameTips(0.0F, localizedString("Checking files..."),

@@ -40,6 +40,7 @@ void VXCDBurnerMainWindowController::updateTrackStage(const char *tipsKey, std::
 }
 
 void VXCDBurnerMainWindowController::burnProgressDidStarted() {
+    followBusyBurner();
     sendUsageEvent(usage_event::burnStart);
     const bool readsAudio = _cdTypePopup->currentText() == localizedString("Audio CD");
     sendUsageEvent(readsAudio ? usage_event::burnStartAudio : usage_event::burnStartData);

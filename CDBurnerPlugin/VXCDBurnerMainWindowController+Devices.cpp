@@ -134,6 +134,16 @@ void VXCDBurnerMainWindowController::selectCDType() {
     updateUI();
 }
 
+void VXCDBurnerMainWindowController::followBusyBurner() {
+    const bool isAudioCurrent = _scorcher == _audioCDBurner.get();
+    const Scorcher &other = isAudioCurrent ? *_dataCDBurner : *_audioCDBurner;
+    if (_scorcher->isBusy() || !other.isBusy()) {
+        return;
+    }
+    _cdTypePopup->setCurrentIndex(isAudioCurrent ? 1 : 0);
+    selectCDType();
+}
+
 void VXCDBurnerMainWindowController::eject() {
     deviceOrAbsent(_selectedDevice).eject();
 }

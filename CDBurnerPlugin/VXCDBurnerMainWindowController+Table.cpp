@@ -69,8 +69,7 @@ void VXCDBurnerMainWindowController::tableViewMouseOverRow(FilesTableView *table
     _btnDelete->setTag(row);
     const QRect rectangle = table != nullptr ? table->rectOfRow(row) : QRect();
     const QPoint corner = _filesTableView->viewport()->mapTo(_window, rectangle.topLeft());
-    const auto frameFor =
-        _window->isRightToLeft() ? mirroredDeleteButtonFrame : deleteButtonFrame;
+    const auto frameFor = _window->isRightToLeft() ? mirroredDeleteButtonFrame : deleteButtonFrame;
     const QRectF frame =
         frameFor(QSizeF(rectangle.size()), QPointF(corner.x(), _window->height() - corner.y()),
                  FilesTableView::deleteButtonSize);

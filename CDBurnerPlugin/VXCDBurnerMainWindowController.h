@@ -80,6 +80,10 @@ public:
     // Actions of the controls.
     void selectDevice();
     void selectCDType();
+    /// Makes the other burner the current one if it is that which works: a window that is opened
+    /// while it does starts with the audio burner, and its Cancel, and the clearing of a finished
+    /// list, must reach the list that burns.
+    void followBusyBurner();
     void eject();
     void burn();
     void clearlist();

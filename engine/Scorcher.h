@@ -68,6 +68,9 @@ public:
     /// blank disc. False for null.
     virtual bool isContentOverflowForDevice(const ScorcherDevice *device) const = 0;
 
+    /// A check or a burn of this burner runs, as far as its delegate has been told.
+    virtual bool isBusy() const = 0;
+
     /// Starts to burn the list as it is now. `discName` is UTF-8. Copies what it needs of `device`.
     virtual void burnWithDeviceDiscNamed(const ScorcherDevice *device,
                                          const std::string &discName) = 0;

@@ -49,6 +49,7 @@ public:
     bool isContentOverflowForDevice(const ScorcherDevice *device) const override;
     void burnWithDeviceDiscNamed(const ScorcherDevice *device,
                                  const std::string &discName) override;
+    bool isBusy() const override { return check_ != nullptr || burn_ != nullptr; }
     void stopBurn() override;
 
     /// Tells a check and a burn to stop.

@@ -67,6 +67,8 @@ public:
     bool isContentOverflowForDevice(const ScorcherDevice *device) const override;
     void burnWithDeviceDiscNamed(const ScorcherDevice *device,
                                  const std::string &discName) override;
+    bool isBusy() const override { return busy; }
+    bool busy = false;
     void stopBurn() override { calls.emplace_back("stopBurn"); }
 
 private:

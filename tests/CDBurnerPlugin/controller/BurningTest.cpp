@@ -295,3 +295,24 @@ TEST_F(Burning, DrivesAndListsThatChangeLeaveTheSheetAlone) {
     EXPECT_EQ(tips(), "Start burning");
     EXPECT_TRUE(button()->isEnabled());
 }
+
+TEST_F(Burning, WindowOpenedDuringADataBurnFollowsAndStopsIt) {
+    openWithSongs(1);
+    usage.clear();
+    engine.data().busy = true;
+    send(engine.data(), [](ScorchDelegate &delegate) { delegate.burnProgressDidStarted(); });
+    EXPECT_THAT(usage.keys(), ElementsAre("CDBurn_BurnStart", "CDBurn_BurnStart_Data"));
+    EXPECT_EQ(typePopup()->currentText(), QStringLiteral("Data CD"));
+    confirmCancel();
+    EXPECT_THAT(engine.data().calls, testing::Contains("stopBurn").Times(1));
+    EXPECT_THAT(engine.audio().calls, testing::Not(testing::Contains("stopBurn")));
+}
+
+TEST_F(Burning, EndOfADataBurnInANewWindowKeepsTheSongs) {
+    openWithSongs(1);
+    engine.data().busy = true;
+    send(engine.data(), [](ScorchDelegate &delegate) { delegate.burnProgressDidStarted(); });
+    send(engine.data(), [](ScorchDelegate &delegate) { delegate.burnProgressDidDone(); });
+    EXPECT_THAT(engine.data().calls, testing::Contains("clearAll"));
+    EXPECT_THAT(engine.audio().calls, testing::Not(testing::Contains("clearAll")));
+}
