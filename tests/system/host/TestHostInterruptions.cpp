@@ -87,6 +87,18 @@ TEST_F(HostInterruptions, WindowOpenedAnewFollowsTheBurnAndCanCancelIt) {
     EXPECT_THAT(images(), IsEmpty());
 }
 
+TEST_F(HostInterruptions, WindowOpenedAnewCanCancelADataBurnToo) {
+    startLongBurn();
+    tool().shutdown();
+    crate_->window().openTool(0);
+    waitUntil("sheet on the new window", [this] { return sheet() != nullptr; });
+    AlertAnswer answer(QStringLiteral("Yes"));
+    sheetButton()->click();
+    waitUntil("cancelled", [this] { return sheet() == nullptr; });
+    EXPECT_THAT(images(), IsEmpty());
+    EXPECT_EQ(rows(), 1) << "the list that was burning is shown and kept";
+}
+
 TEST_F(HostInterruptions, ClosedWindowComesBackWithItsList) {
     start({medium("short.wav")});
     waitUntil("song listed", [this] { return rows() == 1 && sheet() == nullptr; });
