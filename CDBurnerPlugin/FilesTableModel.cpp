@@ -25,15 +25,24 @@ QVariant toVariant(const ItemValue &value) {
 FilesTableModel::FilesTableModel(QObject *parent) : QAbstractTableModel(parent) {}
 
 void FilesTableModel::setScorcher(std::shared_ptr<const Scorcher> scorcher, FileInfoKind kind) {
-    scorcher_ = std::move(scorcher);
     kind_ = kind;
+    if (scorcher == scorcher_) {
+        return;
+    }
+    beginResetModel();
+    scorcher_ = std::move(scorcher);
+    knownRows_ = 0;
+    endResetModel();
+}
+
+int FilesTableModel::numberOfItems() const {
+    const std::int64_t count =
+        scorcher_ != nullptr ? scorcher_->numberOfChildrenOfBurnItem(nullptr) : 0;
+    return static_cast<int>(std::clamp<std::int64_t>(count, 0, std::numeric_limits<int>::max()));
 }
 
 void FilesTableModel::reloadData() {
-    const std::int64_t count =
-        scorcher_ != nullptr ? scorcher_->numberOfChildrenOfBurnItem(nullptr) : 0;
-    const int rows =
-        static_cast<int>(std::clamp<std::int64_t>(count, 0, std::numeric_limits<int>::max()));
+    const int rows = numberOfItems();
     const int common = std::min(rows, knownRows_);
     if (rows > knownRows_) {
         beginInsertRows({}, knownRows_, rows - 1);
@@ -47,6 +56,16 @@ void FilesTableModel::reloadData() {
     if (common > 0) {
         emit dataChanged(index(0, 0), index(common - 1, columnTotal - 1));
     }
+}
+
+void FilesTableModel::rowDidLeave(qint64 row) {
+    if (row < 0 || row >= knownRows_ || numberOfItems() >= knownRows_) {
+        return;
+    }
+    const int position = static_cast<int>(row);
+    beginRemoveRows({}, position, position);
+    --knownRows_;
+    endRemoveRows();
 }
 
 QVariant FilesTableModel::objectValue(const QString &columnIdentifier, qint64 row) const {

@@ -36,12 +36,17 @@ public:
     explicit FilesTableModel(QObject *parent = nullptr);
 
     /// Whose list to show and what of it; null for an empty list. The rows follow with the next
-    /// reloadData.
+    /// reloadData; those of another burner are new to the view, which forgets what was selected.
     void setScorcher(std::shared_ptr<const Scorcher> scorcher, FileInfoKind kind);
 
     /// Tells the view how the list stands now: rows that came or went at its end, and that all
     /// others may have changed. Costs the same for any number of rows.
     void reloadData();
+
+    /// To be told when the user has had the burner remove this row: the rows after it move up in
+    /// the view with what is selected of them. Ignored for a row that the view does not have, and
+    /// where the burner still has as many rows as the view.
+    void rowDidLeave(qint64 row);
 
     /// The property that a column shows of a row, unchanged: the display name for "kFilename",
     /// duration or size for "kFileinfo", "" for any other column; nothing where the item or its
@@ -70,6 +75,7 @@ public:
     Qt::DropActions supportedDropActions() const override { return Qt::CopyAction; }
 
 private:
+    int numberOfItems() const;
     QString text(const QModelIndex &index) const;
 
     std::shared_ptr<const Scorcher> scorcher_;

@@ -51,6 +51,10 @@ FilesTableView::FilesTableView(QWidget *parent)
     setHorizontalHeader(new FilesTableHeader(deleteButtonSize, this));
     setItemDelegate(new FilesTableItemDelegate(deleteButtonSize, this));
     setModel(filesModel_);
+    connect(filesModel_, &QAbstractItemModel::modelReset, this, [this] {
+        scrollToTop();
+        hoverAgain(); // The row under the pointer is another list's now.
+    });
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);

@@ -41,7 +41,9 @@ public:
     void unregisterDraggedTypes();
 
     /// Shows the list as it is now. Selection and scroll position stay where their rows still
-    /// exist. Changes between the two looks when the list becomes empty or gets its first row.
+    /// exist: rows are taken to have come or gone at the end, so whoever has one removed or moved
+    /// elsewhere says so (FilesTableModel::rowDidLeave, selectRowIndexes). Changes between the two
+    /// looks when the list becomes empty or gets its first row.
     void reloadData();
 
     /// On in the list's look; the memory of which look is showing.

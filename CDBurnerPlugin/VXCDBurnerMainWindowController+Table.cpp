@@ -5,6 +5,7 @@
 #include "CDBurnerPlugin/BurnListGeometry.h"
 #include "CDBurnerPlugin/DeleteButton.h"
 #include "CDBurnerPlugin/DropFileList.h"
+#include "CDBurnerPlugin/FilesTableModel.h"
 #include "CDBurnerPlugin/MainWindow.h"
 #include "CDBurnerPlugin/RowIndexSetCodec.h"
 #include "CDBurnerPlugin/YUpGeometry.h"
@@ -85,6 +86,7 @@ void VXCDBurnerMainWindowController::btnDeleteDidClicked() {
     // The button may have been left over a list that is empty meanwhile.
     if (const BurnItemRef item = itemAtRow(row)) {
         _scorcher->removeItem(item);
+        _filesTableView->filesModel()->rowDidLeave(row);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "CDBurnerPlugin/RowIndexSetCodec.h"
 
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
 
 using testing::ElementsAre;
@@ -242,6 +243,51 @@ TEST_F(BurnList, DeleteButtonOverTheLastRowHides) {
     deleteButton()->click();
     EXPECT_TRUE(deleteButton()->isHidden());
     EXPECT_EQ(engine.audio().count("removeItem"), 1);
+}
+
+TEST_F(BurnList, DeleteButtonKeepsTheSameSongsSelected) {
+    openWithSongs(6);
+    table()->selectRowIndexes({0, 3, 4});
+    controller->tableViewMouseOverRow(table(), 1);
+    deleteButton()->click();
+    EXPECT_EQ(table()->selectedRowIndexes(), (IndexSet{0, 2, 3}));
+    send(engine.audio(), [](ScorchDelegate &delegate) { delegate.burnItemDidDelete(nullptr); });
+    EXPECT_EQ(table()->selectedRowIndexes(), (IndexSet{0, 2, 3}));
+    EXPECT_EQ(rowCount(), 5);
+}
+
+TEST_F(BurnList, TwoClicksBeforeTheEngineAnswersKeepTheSameSongsSelected) {
+    openWithSongs(6);
+    table()->selectRowIndexes({4});
+    controller->tableViewMouseOverRow(table(), 1);
+    deleteButton()->click();
+    deleteButton()->click();
+    for (int answer = 0; answer < 2; ++answer) {
+        send(engine.audio(), [](ScorchDelegate &delegate) { delegate.burnItemDidDelete(nullptr); });
+    }
+    EXPECT_THAT(engine.audio().names(), ElementsAre("Song 1", "Song 4", "Song 5", "Song 6"));
+    EXPECT_EQ(table()->selectedRowIndexes(), IndexSet{2});
+}
+
+TEST_F(BurnList, ASelectedRowThatItsButtonRemovesLeavesNoOtherSelected) {
+    openWithSongs(3);
+    table()->selectRowIndexes({1});
+    controller->tableViewMouseOverRow(table(), 1);
+    deleteButton()->click();
+    EXPECT_EQ(table()->selectedRowIndexes(), IndexSet{});
+}
+
+TEST_F(BurnList, TheOtherBurnersListStartsAtItsTopWithNothingSelected) {
+    for (int number = 0; number < 100; ++number) {
+        engine.data().append("file", 1);
+    }
+    openWithSongs(100);
+    table()->selectRowIndexes({50});
+    table()->verticalScrollBar()->setValue(400);
+    chooseData();
+    QApplication::processEvents();
+    EXPECT_EQ(table()->selectedRowIndexes(), IndexSet{});
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(BurnList, ButtonThatIsLeftOverAnEmptyListDoesNothing) {

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QMimeData>
+#include <QPersistentModelIndex>
 #include <QSignalSpy>
 
 namespace {
@@ -85,6 +86,55 @@ TEST_F(FilesTableModelTest, AReloadTellsOfRowsAtTheEndAndOfChangesBefore) {
     ASSERT_EQ(changed.size(), 1);
     EXPECT_EQ(changed[0][1].toModelIndex().row(), 0);
     EXPECT_EQ(reset.size(), 0);
+}
+
+/// Without the model tester, which expects a row that leaves to have its data until then: here the
+/// burner has given it up before.
+struct LeavingRow : testing::Test {
+    LeavingRow() {
+        for (const char *name : {"a", "b", "c"}) {
+            burner->append(name, 75);
+        }
+        model.setScorcher(burner, FileInfoKind::duration);
+        model.reloadData();
+    }
+
+    std::shared_ptr<FakeScorcher> burner = std::make_shared<FakeScorcher>();
+    FilesTableModel model;
+};
+
+TEST_F(LeavingRow, IsTakenOutInItsPlace) {
+    const QPersistentModelIndex last = model.index(2, 0);
+    burner->removeItem(burner->childOfBurnItem(1, nullptr));
+    model.rowDidLeave(1);
+    EXPECT_EQ(last.row(), 1);
+    EXPECT_EQ(model.rowCount(), 2);
+}
+
+TEST_F(LeavingRow, StaysWhereTheBurnerStillHasIt) {
+    model.rowDidLeave(0);
+    EXPECT_EQ(model.rowCount(), 3);
+}
+
+TEST_F(LeavingRow, IsIgnoredWhereTheViewHasNone) {
+    burner->removeItem(burner->childOfBurnItem(1, nullptr));
+    model.rowDidLeave(3);
+    model.rowDidLeave(-1);
+    EXPECT_EQ(model.rowCount(), 3);
+}
+
+TEST_F(FilesTableModelTest, RowsOfAnotherBurnerAreNewOnes) {
+    burner_->append("a", 75);
+    model_.reloadData();
+    const QPersistentModelIndex first = model_.index(0, 0);
+    const auto other = std::make_shared<FakeScorcher>();
+    other->append("b", 75);
+    model_.setScorcher(burner_, FileInfoKind::fileSize);
+    EXPECT_TRUE(first.isValid());
+    model_.setScorcher(other, FileInfoKind::fileSize);
+    EXPECT_FALSE(first.isValid());
+    model_.reloadData();
+    EXPECT_EQ(textAt(0, 0), QStringLiteral("b"));
 }
 
 TEST(FilesTableModel, AReloadOfTheSameRowsAsksTheEngineForTheirNumberAlone) {
