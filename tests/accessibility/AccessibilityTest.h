@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "tests/accessibility/Accessible.h"
+#include "tests/accessibility/ChildProcess.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+/// The host program with the tool's window open on an image drive, as somebody with a screen reader
+/// has it before them.
+class AccessibilityTest : public testing::Test {
+protected:
+    AccessibilityTest();
+    ~AccessibilityTest() override;
+
+    /// Starts the host, which hands the files to the tool, and waits until the tool's window shows
+    /// that many rows.
+    void start(const std::vector<std::filesystem::path> &files = {}, int rows = 0);
+
+    /// The two windows, by their titles. Null while they are not there.
+    Accessible toolWindow() const { return windowNamed("CD Burner"); }
+    Accessible hostWindow() const { return windowNamed("Crate"); }
+    Accessible windowNamed(const std::string &title) const;
+
+    Accessible list() const { return toolWindow().find(ATSPI_ROLE_TABLE); }
+    Accessible button(const std::string &name) const {
+        return toolWindow().find(ATSPI_ROLE_PUSH_BUTTON, name);
+    }
+
+    /// Presses keys as a keyboard does, in the notation of xdotool.
+    static void press(const std::string &keys);
+
+    TemporaryFolder folder_;
+    std::filesystem::path imageFolder_;
+    std::filesystem::path musicFolder_;
+    std::unique_ptr<ChildProcess> program_;
+};
+
+/// One of the songs that are made for tests.
+std::filesystem::path medium(const char *name);
