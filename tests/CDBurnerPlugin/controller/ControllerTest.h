@@ -11,7 +11,7 @@
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 #include "tests/CDBurnerPlugin/controller/AlertAnswer.h"
 #include "tests/CDBurnerPlugin/controller/UsageLog.h"
-#include "tests/CDBurnerPlugin/controller/runUntil.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>

@@ -4,7 +4,7 @@
 #include "CDBurnerPlugin/VXCDBurner.h"
 #include "tests/CDBurnerPlugin/controller/AlertAnswer.h"
 #include "tests/CDBurnerPlugin/controller/UsageLog.h"
-#include "tests/CDBurnerPlugin/controller/runUntil.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>

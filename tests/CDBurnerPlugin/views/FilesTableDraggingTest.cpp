@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "tests/CDBurnerPlugin/views/EventLoop.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/views/TableRecorder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/ResourceLocator.h"
-#include "tests/CDBurnerPlugin/views/EventLoop.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/views/TableRecorder.h"
 #include "tests/support/TemporaryFolder.h"
 

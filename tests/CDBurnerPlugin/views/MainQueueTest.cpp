@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/MainQueue.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -26,17 +27,6 @@ using namespace std::chrono_literals;
 /// A test that has an application.
 class MainQueueTest : public testing::Test {
 protected:
-    static bool runUntil(const std::function<bool()> &condition) {
-        const QDeadlineTimer deadline(10s);
-        while (!condition()) {
-            if (deadline.hasExpired()) {
-                return false;
-            }
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        }
-        return true;
-    }
-
     int count_ = 1;
     char name_[5] = "test";
     char *arguments_[2] = {name_, nullptr};

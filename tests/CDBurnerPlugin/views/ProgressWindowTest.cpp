@@ -2,7 +2,7 @@
 #include "CDBurnerPlugin/ProgressWindow.h"
 
 #include "CDBurnerPlugin/MainQueue.h"
-#include "tests/CDBurnerPlugin/views/EventLoop.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/views/LogLines.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 
-#include "tests/CDBurnerPlugin/views/EventLoop.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
-#include "tests/CDBurnerPlugin/controller/runUntil.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 
 #include "CDBurnerPlugin/MainQueue.h"
 
@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEvent>
+#include <QTest>
+#include <QWidget>
 
 #include <chrono>
 #include <memory>
@@ -29,4 +31,10 @@ void drainMainQueue() {
     MainQueue::async([isDone] { *isDone = true; });
     EXPECT_TRUE(runUntil([&isDone] { return *isDone; }));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void showActive(QWidget &window) {
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
