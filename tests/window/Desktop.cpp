@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/window/Desktop.h"
+
+#include "tests/window/Deadline.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
+
+template <typename Reply>
+Owned<Reply> owned(Reply *reply) {
+    return Owned<Reply>(reply, &std::free);
+}
+
+} // namespace
+
+Desktop::Desktop() {
+    const std::string screen =
+        std::to_string(size.width()) + "x" + std::to_string(size.height()) + "x24";
+    // It picks a free display by itself and says which, so that two desktops never meet.
+    server_ = std::make_unique<ChildProcess>(
+        std::vector<std::string>{"Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten",
+                                 "tcp", "-noreset"},
+        errorFile());
+    std::string number;
+    if (!server_->readLine(number, waitLimit)) {
+        ADD_FAILURE() << "no X server: " << readFile(errorFile());
+        return;
+    }
+    const std::string name = ":" + number;
+    setenv("DISPLAY", name.c_str(), 1);
+    connection_ = xcb_connect(name.c_str(), nullptr);
+    if (xcb_connection_has_error(connection_) != 0) {
+        ADD_FAILURE() << "no connection to display " << name;
+        return;
+    }
+    root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+    windowManager_ = std::make_unique<ChildProcess>(
+        std::vector<std::string>{"openbox", "--sm-disable", "--config-file",
+                                 TEST_WINDOW_DIR "/openbox.xml"},
+        errorFile());
+    EXPECT_TRUE(eventually([this] { return hasWindowManager(); })) << readFile(errorFile());
+}
+
+Desktop::~Desktop() {
+    windowManager_.reset();
+    if (connection_ != nullptr) {
+        xcb_disconnect(connection_);
+    }
+}
+
+bool Desktop::hasWindowManager() {
+    // The window that is named must name itself: the property may be left over.
+    const std::string check = "_NET_SUPPORTING_WM_CHECK";
+    const std::uint32_t window = property(root_, check, XCB_ATOM_WINDOW);
+    return window != 0 && property(window, check, XCB_ATOM_WINDOW) == window;
+}
+
+std::uint32_t Desktop::atom(const std::string &name) {
+    const auto cookie =
+        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
+    const auto reply = owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
+    return reply != nullptr ? reply->atom : 0;
+}
+
+std::uint32_t Desktop::property(std::uint32_t window, const std::string &name, std::uint32_t type) {
+    const auto cookie = xcb_get_property(connection_, 0, window, atom(name), type, 0, 1);
+    const auto reply = owned(xcb_get_property_reply(connection_, cookie, nullptr));
+    if (reply == nullptr || xcb_get_property_value_length(reply.get()) != sizeof(std::uint32_t)) {
+        return 0;
+    }
+    std::uint32_t value = 0;
+    std::memcpy(&value, xcb_get_property_value(reply.get()), sizeof value);
+    return value;
+}
+
+std::uint32_t Desktop::activeWindow() {
+    return property(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
+}
+
+QRect Desktop::windowRect(std::uint32_t window) {
+    const auto geometry =
+        owned(xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr));
+    const auto corner = owned(xcb_translate_coordinates_reply(
+        connection_, xcb_translate_coordinates(connection_, window, root_, 0, 0), nullptr));
+    if (geometry == nullptr || corner == nullptr) {
+        return {};
+    }
+    return {corner->dst_x, corner->dst_y, geometry->width, geometry->height};
+}
+
+std::vector<QColor> Desktop::pixels(const QRect &area) {
+    const QRect seen = area.intersected(QRect(QPoint(0, 0), size));
+    const auto cookie = xcb_get_image(
+        connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, static_cast<std::int16_t>(seen.x()),
+        static_cast<std::int16_t>(seen.y()), static_cast<std::uint16_t>(seen.width()),
+        static_cast<std::uint16_t>(seen.height()), ~0U);
+    const auto reply = owned(xcb_get_image_reply(connection_, cookie, nullptr));
+    std::vector<QColor> colors;
+    if (reply == nullptr) {
+        ADD_FAILURE() << "no picture of the screen";
+        return colors;
+    }
+    const std::uint8_t *const data = xcb_get_image_data(reply.get());
+    const auto count = static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) / 4;
+    colors.reserve(count);
+    for (std::size_t index = 0; index < count; ++index) {
+        const std::uint8_t *const pixel = data + 4 * index; // Blue, green, red, nothing.
+        colors.emplace_back(pixel[2], pixel[1], pixel[0]);
+    }
+    return colors;
+}
+
+void Desktop::closeWindow(std::uint32_t window) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom("_NET_CLOSE_WINDOW");
+    xcb_send_event(connection_, 0, root_,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&message));
+    xcb_flush(connection_);
+}

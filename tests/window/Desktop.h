@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#pragma once
+
+#include "tests/support/TemporaryFolder.h"
+#include "tests/window/ChildProcess.h"
+
+#include <QColor>
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+#include <xcb/xcb.h>
+
+/// An X server without a screen to look at, and a window manager on it, both of the test's own:
+/// on a display that nobody else uses, and ended with this object. Programs that are started
+/// meanwhile come up on it (DISPLAY). Fails the test if it cannot be had.
+class Desktop {
+public:
+    Desktop();
+    ~Desktop();
+    Desktop(const Desktop &) = delete;
+    Desktop &operator=(const Desktop &) = delete;
+
+    static constexpr QSize size{1800, 1000};
+
+    /// The window that the window manager calls active; 0 for none.
+    std::uint32_t activeWindow();
+    /// A window's place on the screen without its frame; empty if there is no such window.
+    QRect windowRect(std::uint32_t window);
+    /// What is on the screen in this rectangle, row by row.
+    std::vector<QColor> pixels(const QRect &area);
+    /// What a click on a window's close box does: the window manager asks the program.
+    void closeWindow(std::uint32_t window);
+
+    /// Where programs write what they have to say on standard error.
+    std::string errorFile() const { return (folder_ / "errors").string(); }
+
+private:
+    std::uint32_t atom(const std::string &name);
+    /// A property of one 32 bit value; 0 if there is none.
+    std::uint32_t property(std::uint32_t window, const std::string &name, std::uint32_t type);
+    bool hasWindowManager();
+
+    TemporaryFolder folder_;
+    std::unique_ptr<ChildProcess> server_;
+    std::unique_ptr<ChildProcess> windowManager_;
+    xcb_connection_t *connection_ = nullptr;
+    std::uint32_t root_ = 0;
+};
