@@ -1,26 +1,13 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/system/host/HostTest.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QEventLoop>
-
 #include <algorithm>
 #include <fstream>
 #include <sstream>
 
 namespace {
 
-constexpr qint64 waitLimit = 60'000; // Milliseconds; a busy machine may take long.
 constexpr std::uintmax_t longFileBytes = 500U << 20U;
-
-SongList asSongs(const std::vector<std::filesystem::path> &files) {
-    SongList songs;
-    for (const std::filesystem::path &file : files) {
-        songs.append({QByteArray::fromStdString(file.string()), {}, {}});
-    }
-    return songs;
-}
 
 std::string littleEndian(std::uint32_t value) {
     std::string bytes;
@@ -60,59 +47,19 @@ HostTest::HostTest() : imageFolder_(folder_ / "images"), musicFolder_(folder_ / 
     commandLine_.usageLog = folder_ / "usage";
 }
 
-HostTest::~HostTest() {
-    crate_.reset();
-    // What the end of the program does to the engine, here for each test in turn.
-    QMetaObject::invokeMethod(
-        qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
-    QCoreApplication::exec();
-}
-
 void HostTest::start(const std::vector<std::filesystem::path> &files) {
     commandLine_.files = files;
     std::string error;
-    crate_ = crate::Crate::create(commandLine_, CDBURNER_TOOLS_DIR, error);
-    ASSERT_NE(crate_, nullptr) << error;
-    ASSERT_TRUE(crate_->utilities().find(QStringLiteral("CD Burner")));
-    ASSERT_NE(toolWindow(), nullptr);
+    ASSERT_TRUE(host_.start(commandLine_, error)) << error;
     EXPECT_TRUE(toolWindow()->isVisible());
 }
 
 void HostTest::waitUntil(const char *what, const std::function<bool()> &isSo) const {
-    QElapsedTimer clock;
-    clock.start();
-    while (!isSo() && clock.elapsed() < waitLimit) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    ASSERT_TRUE(isSo()) << what;
-}
-
-QDialog *HostTest::sheet() {
-    const auto dialogs = toolWindow()->findChildren<QDialog *>(QStringLiteral("ProgressWindow"));
-    const auto shown = std::find_if(dialogs.begin(), dialogs.end(),
-                                    [](const QDialog *dialog) { return dialog->isVisible(); });
-    return shown == dialogs.end() ? nullptr : *shown;
-}
-
-QPushButton *HostTest::sheetButton() {
-    QDialog *shown = sheet();
-    return shown == nullptr ? nullptr
-                            : shown->findChild<QPushButton *>(QStringLiteral("btnCancel"));
-}
-
-int HostTest::rows() {
-    return part<QAbstractItemView>("_filesTableView")->model()->rowCount();
-}
-
-void HostTest::chooseDataDisc() {
-    auto *popup = part<QComboBox>("_cdTypePopup");
-    popup->setCurrentIndex(1);
-    emit popup->activated(1);
+    ASSERT_TRUE(RunningHost::waitUntil(isSo)) << what;
 }
 
 void HostTest::add(const std::vector<std::filesystem::path> &files, int expectedRows) {
-    EXPECT_TRUE(tool().addFiles(asSongs(files)));
+    EXPECT_TRUE(host_.addFiles(files));
     waitUntil("files added", [&] { return rows() == expectedRows && sheet() == nullptr; });
 }
 

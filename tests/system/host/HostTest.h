@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "crate/Crate.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/system/host/RunningHost.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QDialog>
 #include <QLineEdit>
-#include <QPushButton>
 
-#include <chrono>
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,7 +18,6 @@
 class HostTest : public testing::Test {
 protected:
     HostTest();
-    ~HostTest() override;
 
     /// Starts the host, as its command line would.
     void start(const std::vector<std::filesystem::path> &files = {});
@@ -31,22 +25,23 @@ protected:
     /// Handles events until it is so; fails the test after a minute.
     void waitUntil(const char *what, const std::function<bool()> &isSo) const;
 
-    VXUtilitiesTool &tool() { return *crate_->utilities().entries().front().tool; }
-    QWidget *toolWindow() { return tool().mainWindow(); }
+    crate::Crate &crate() { return host_.crate(); }
+    VXUtilitiesTool &tool() { return host_.tool(); }
+    QWidget *toolWindow() { return host_.toolWindow(); }
     /// A widget of the tool's window, by its name.
     template <typename Widget>
     Widget *part(const char *name) {
-        auto *widget = toolWindow()->findChild<Widget *>(QLatin1String(name));
+        auto *widget = host_.part<Widget>(name);
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
     /// The sheet, while it is up.
-    QDialog *sheet();
-    QPushButton *sheetButton();
-    int rows();
+    QDialog *sheet() { return host_.sheet(); }
+    QPushButton *sheetButton() { return host_.sheetButton(); }
+    int rows() { return host_.rows(); }
 
     /// As a user chooses it from the popup.
-    void chooseDataDisc();
+    void chooseDataDisc() { host_.chooseDisc(1); }
     /// Files into the list, and waits for the end of the check.
     void add(const std::vector<std::filesystem::path> &files, int expectedRows);
     /// Waits for the Burn button and clicks it; the sheet is up when it returns.
@@ -66,7 +61,7 @@ protected:
     std::filesystem::path imageFolder_;
     std::filesystem::path musicFolder_;
     crate::CommandLine commandLine_;
-    std::unique_ptr<crate::Crate> crate_;
+    RunningHost host_; ///< Ends before the folder goes.
 };
 
 /// A file of the test media.

@@ -13,7 +13,7 @@ namespace {
 
 class HostDragging : public HostTest {
 protected:
-    crate::SongListView &songs() { return *crate_->window().findChild<crate::SongListView *>(); }
+    crate::SongListView &songs() { return *crate().window().findChild<crate::SongListView *>(); }
 
     /// The data of a drag of the first row, as the host's list makes it.
     std::unique_ptr<QMimeData> dragOfFirstSong() {
@@ -56,7 +56,7 @@ TEST_F(HostDragging, SendButtonDoesTheSame) {
     start();
     waitUntil("library read", [this] { return songs().model()->rowCount() == 1; });
     songs().selectAll();
-    crate_->window().findChild<QPushButton *>(QStringLiteral("send:cd-burner:button"))->click();
+    crate().window().findChild<QPushButton *>(QStringLiteral("send:cd-burner:button"))->click();
     waitUntil("song listed", [this] { return rows() == 1 && sheet() == nullptr; });
 }
 

@@ -31,9 +31,9 @@ TEST_F(HostInterruptions, CancelLeavesNothingBehindAndKeepsTheList) {
 TEST_F(HostInterruptions, RefusedQuitLeavesTheBurnAlone) {
     startLongBurn();
     AlertAnswer answer(QStringLiteral("No"));
-    EXPECT_FALSE(crate_->window().close());
+    EXPECT_FALSE(crate().window().close());
     EXPECT_EQ(answer.count(), 1);
-    EXPECT_TRUE(crate_->window().isVisible());
+    EXPECT_TRUE(crate().window().isVisible());
     ASSERT_NE(sheet(), nullptr);
     EXPECT_TRUE(sheetButton()->isEnabled());
 }
@@ -42,7 +42,7 @@ TEST_F(HostInterruptions, AgreedQuitCancelsAndLeavesNothingBehind) {
     startLongBurn();
     AlertAnswer answer(QStringLiteral("Yes"));
     QMetaObject::invokeMethod(
-        &crate_->window(), [this] { crate_->window().close(); }, Qt::QueuedConnection);
+        &crate().window(), [this] { crate().window().close(); }, Qt::QueuedConnection);
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_EQ(answer.count(), 1);
     EXPECT_FALSE(tool().isStartuped());
@@ -79,7 +79,7 @@ TEST_F(HostInterruptions, WindowOpenedAnewFollowsTheBurnAndCanCancelIt) {
     startLongAudioBurn();
     tool().shutdown();
     EXPECT_FALSE(tool().isStartuped());
-    crate_->window().openTool(0);
+    crate().window().openTool(0);
     waitUntil("sheet on the new window", [this] { return sheet() != nullptr; });
     AlertAnswer answer(QStringLiteral("Yes"));
     sheetButton()->click();
@@ -90,7 +90,7 @@ TEST_F(HostInterruptions, WindowOpenedAnewFollowsTheBurnAndCanCancelIt) {
 TEST_F(HostInterruptions, WindowOpenedAnewCanCancelADataBurnToo) {
     startLongBurn();
     tool().shutdown();
-    crate_->window().openTool(0);
+    crate().window().openTool(0);
     waitUntil("sheet on the new window", [this] { return sheet() != nullptr; });
     AlertAnswer answer(QStringLiteral("Yes"));
     sheetButton()->click();
@@ -104,7 +104,7 @@ TEST_F(HostInterruptions, ClosedWindowComesBackWithItsList) {
     waitUntil("song listed", [this] { return rows() == 1 && sheet() == nullptr; });
     EXPECT_TRUE(toolWindow()->close());
     EXPECT_FALSE(tool().isStartuped());
-    crate_->window().openTool(0);
+    crate().window().openTool(0);
     waitUntil("list shown again", [this] { return rows() == 1; });
 }
 
