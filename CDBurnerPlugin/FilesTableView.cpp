@@ -181,20 +181,23 @@ IndexSet FilesTableView::selectedRowIndexes() const {
 }
 
 void FilesTableView::selectRowIndexes(const IndexSet &rows) {
+    // A range for each run of rows: the cost of a selection grows with the square of its ranges.
     QItemSelection selection;
-    std::optional<int> first;
-    for (const std::int64_t row : rows) {
-        if (row < 0 || row >= filesModel_->rowCount()) {
-            continue;
+    auto row = rows.lower_bound(0);
+    const auto end = rows.lower_bound(filesModel_->rowCount());
+    while (row != end) {
+        const int first = static_cast<int>(*row);
+        int last = first;
+        while (++row != end && *row == last + 1) {
+            ++last;
         }
-        const int position = static_cast<int>(row);
-        first = first.value_or(position);
-        selection.select(filesModel_->index(position, 0),
-                         filesModel_->index(position, FilesTableModel::columnTotal - 1));
+        selection.append(
+            QItemSelectionRange(filesModel_->index(first, 0),
+                                filesModel_->index(last, FilesTableModel::columnTotal - 1)));
     }
-    if (first) {
+    if (!selection.isEmpty()) {
         // Where the keyboard goes on from.
-        selectionModel()->setCurrentIndex(filesModel_->index(*first, 0),
+        selectionModel()->setCurrentIndex(selection.first().topLeft(),
                                           QItemSelectionModel::NoUpdate);
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);

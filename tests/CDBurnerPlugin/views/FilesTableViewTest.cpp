@@ -142,6 +142,16 @@ TEST(TableSelection, IsReplacedAndStaysWithinTheList) {
     EXPECT_TRUE(fixture.table.selectedRowIndexes().empty());
 }
 
+TEST(TableSelection, OfRowsThatStandTogetherIsOneRange) {
+    TableFixture fixture;
+    fixture.append(100);
+    fixture.table.reloadData();
+    fixture.table.selectRowIndexes({3, 4, 5, 7, 98, 99, 100, 101});
+    EXPECT_EQ(fixture.table.selectedRowIndexes(), (IndexSet{3, 4, 5, 7, 98, 99}));
+    EXPECT_EQ(fixture.table.selectionModel()->selection().size(), 3);
+    EXPECT_EQ(fixture.table.currentIndex().row(), 3);
+}
+
 TEST(TableRows, HaveAPlaceOverTheWholeWidth) {
     TableFixture fixture;
     fixture.append(3);
