@@ -5,7 +5,10 @@
 #include "scorch/mmc/MmcError.h"
 #include "scorch/support/Result.h"
 
+#include <chrono>
 #include <cstdint>
+#include <stop_token>
+#include <string>
 #include <vector>
 
 namespace scorch {
@@ -25,6 +28,7 @@ struct MediumState {
     enum class Contents { blank, appendable, complete, unknown };
 
     bool trayOpen = false;
+    unsigned profile = 0; ///< MMC's number of the kind of medium; 0 where the drive tells none.
     Kind kind = Kind::none;
     Contents contents = Contents::unknown;
     std::int64_t freeSectors = 0; ///< Of a blank CD: what may be written from LBA 0; 0 otherwise.
@@ -37,7 +41,12 @@ struct MediumState {
 };
 
 /// Asks the drive what it holds: profile, disc information, table of contents, ATIP, speeds. Waits
-/// up to `patience` for a drive that is becoming ready. A unit attention is asked again.
-Result<MediumState, MmcError> examineMedium(MmcDevice &device, std::chrono::milliseconds patience);
+/// up to `patience` for a drive that is becoming ready. A unit attention is asked again. No disc is
+/// no error. After a stop request no further command is sent, and the answer is Kind::interrupted.
+Result<MediumState, MmcError> examineMedium(MmcDevice &device, std::chrono::milliseconds patience,
+                                            const std::stop_token &stop = {});
+
+/// What people call that medium: "CD-R", "DVD+R DL". Empty where there is none.
+std::string mediumName(const MediumState &medium);
 
 } // namespace scorch

@@ -1,29 +1,28 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include "scorch/mmc/MmcError.h"
-#include "scorch/support/Result.h"
+#include "scorch/mmc/MmcTransport.h"
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <span>
+#include <utility>
 
 namespace scorch {
 
-/// An open optical drive that takes commands (MMC-5) through SG_IO. It is opened for reading,
-/// without waiting for a disc, not exclusively and without locking the door, so that other programs
-/// can use the drive meanwhile. One thread at a time. Calls block until the drive answers or the
-/// time is over.
+/// An open optical drive that takes commands (MMC-5). It is opened for reading, without waiting for
+/// a disc, not exclusively and without locking the door, so that other programs can use the drive
+/// meanwhile. One thread at a time. Calls block until the drive answers or the time is over.
 class MmcDevice {
 public:
     static Result<MmcDevice, MmcError> open(const std::filesystem::path &node);
-    ~MmcDevice();
-    MmcDevice(MmcDevice &&other) noexcept;
-    MmcDevice &operator=(MmcDevice &&other) noexcept;
-    MmcDevice(const MmcDevice &) = delete;
-    MmcDevice &operator=(const MmcDevice &) = delete;
+
+    /// A drive that is reached some other way.
+    explicit MmcDevice(std::unique_ptr<MmcTransport> transport)
+        : transport_(std::move(transport)) {}
 
     /// Sends a command that answers with up to `answer.size()` bytes, or with none. Returns the
     /// number of bytes that came. A unit attention (6/xx: the disc was changed, the drive was
@@ -31,17 +30,17 @@ public:
     /// words.
     Result<std::size_t, MmcError> read(const char *name, std::span<const std::uint8_t> command,
                                        std::span<std::uint8_t> answer,
-                                       std::chrono::milliseconds timeout = usualTimeout);
+                                       std::chrono::milliseconds timeout = usualTimeout) {
+        return transport_->read(name, command, answer, timeout);
+    }
 
-    /// The descriptor, for the ioctls of the kernel's CD driver. Owned by this object.
-    int descriptor() const { return descriptor_; }
+    /// Unlocks the door and puts the disc out. Kind::busy where another program has the drive open.
+    Result<void, MmcError> eject() { return transport_->eject(); }
 
     static constexpr std::chrono::milliseconds usualTimeout{10'000};
 
 private:
-    explicit MmcDevice(int descriptor) : descriptor_(descriptor) {}
-
-    int descriptor_ = -1;
+    std::unique_ptr<MmcTransport> transport_;
 };
 
 } // namespace scorch

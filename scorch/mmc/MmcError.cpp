@@ -13,6 +13,9 @@ std::string MmcError::detail() const {
     if (kind == Kind::timedOut) {
         return text + "no answer";
     }
+    if (kind == Kind::interrupted) {
+        return text + "interrupted";
+    }
     return text + std::generic_category().message(systemError);
 }
 

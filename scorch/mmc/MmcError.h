@@ -15,6 +15,7 @@ struct MmcError {
         busy,         ///< Another program holds the drive exclusively.
         gone,         ///< There is no such drive (any more).
         timedOut,     ///< The drive does not answer.
+        interrupted,  ///< Whoever asked has asked to stop.
         other,        ///< The system failed otherwise; `systemError` says how.
     };
 
