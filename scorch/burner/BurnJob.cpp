@@ -74,11 +74,15 @@ Outcome<> verifyTrack(DiscRecording &recording, const ChecksumContent &content, 
     const TrackLayout &layout = content.track(index);
     const std::size_t bytesPerSector = sectorBytes(layout.kind);
     std::vector<std::byte> buffer(static_cast<std::size_t>(verifySectors) * bytesPerSector);
-    for (std::int64_t first = 0; first < layout.sectors; first += verifySectors) {
+    const auto readable = recording.readableSectors(index, layout.sectors, stop);
+    if (!readable) {
+        return readable.error();
+    }
+    for (std::int64_t first = readable->first; first < readable->end; first += verifySectors) {
         if (stop.stop_requested()) {
             return Interruption(Cancelled{});
         }
-        const std::int64_t count = std::min(verifySectors, layout.sectors - first);
+        const std::int64_t count = std::min(verifySectors, readable->end - first);
         const std::span<std::byte> chunk =
             std::span(buffer).first(static_cast<std::size_t>(count) * bytesPerSector);
         if (auto read = recording.readBack(index, first, chunk, stop); !read) {
@@ -122,11 +126,13 @@ Outcome<> recordContent(const BurnRequest &request, DiscContent &content, Report
         return recorded;
     }
     if (request.verify) {
-        if (auto verified = verify(*recording, checked, reporter, stop); !verified) {
+        const auto verified = verify(*recording, checked, reporter, stop);
+        const bool isStopped = !verified && isCancelled(verified.error());
+        if (!verified && !(isStopped && recording->isComplete())) {
             return verified;
         }
     }
-    if (stop.stop_requested()) {
+    if (stop.stop_requested() && !recording->isComplete()) {
         return Interruption(Cancelled{});
     }
     if (auto committed = recording->commit(); !committed) {

@@ -49,9 +49,18 @@ public:
     virtual void wroteSectors(std::int64_t sectors) = 0;
 };
 
+/// Sectors of a track, counted from its start: `first` and all up to `end`, which is not in it.
+struct SectorRange {
+    std::int64_t first = 0;
+    std::int64_t end = 0;
+
+    bool operator==(const SectorRange &) const = default;
+};
+
 /// One recording on one disc. Made by Drive::beginRecording, used by the burn thread. Legal order:
-/// record, then any number of readBack, then commit. Destroying it before commit undoes what can be
-/// undone (an image drive leaves nothing) and returns when the drive is at rest.
+/// record, then any number of readableSectors and readBack, then commit. The content that was
+/// recorded outlives the last readBack. Destroying it before commit undoes what can be undone (an
+/// image drive leaves nothing) and returns when the drive is at rest.
 class DiscRecording {
 public:
     virtual ~DiscRecording() = default;
@@ -66,6 +75,17 @@ public:
     /// memory of what was sent, as far as the medium allows. Fills `buffer` or fails.
     virtual Outcome<> readBack(std::size_t track, std::int64_t firstSector,
                                std::span<std::byte> buffer, const std::stop_token &stop) = 0;
+
+    /// What of a recorded track readBack can reach. A CD drive reads sound some samples early or
+    /// late, and what that pushes past an end of the disc cannot be read. Blocks, may fail.
+    virtual Outcome<SectorRange> readableSectors(std::size_t /*track*/, std::int64_t sectors,
+                                                 const std::stop_token & /*stop*/) {
+        return SectorRange{0, sectors};
+    }
+
+    /// The disc is complete and stays so whether it is committed or not, so that a stop request
+    /// comes too late: a CD, once record has succeeded.
+    virtual bool isComplete() const { return false; }
 
     /// Makes the recording final. From here on it stays, whatever happens.
     virtual Result<void> commit() = 0;

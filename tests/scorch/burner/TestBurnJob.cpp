@@ -156,6 +156,32 @@ TEST_F(BurnJobTest, AStopAtAnyStepBeforeTheCommitCancels) {
     }
 }
 
+TEST_F(BurnJobTest, AStopThatComesAfterTheDiscIsCompleteDoesNotUndoIt) {
+    drive_->completeWhenRecorded();
+    drive_->setStep([&](const std::string &step, const std::stop_token &) -> Outcome<> {
+        if (step == "read back") {
+            stop_.request_stop();
+        }
+        return {};
+    });
+    EXPECT_TRUE(std::holds_alternative<BurnDone>(run(TrackKind::audio, {300, 2000})));
+    EXPECT_FALSE(drive_->state().disc.blank);
+}
+
+TEST_F(BurnJobTest, SectorsThatCannotBeReadBackAreNotCompared) {
+    drive_->limitReading({2, 599});
+    for (const std::int64_t unreachable : {0, 1, 599}) {
+        drive_->setState(FakeDrive::blankCd(359'849));
+        drive_->spoil(0, unreachable);
+        EXPECT_TRUE(std::holds_alternative<BurnDone>(run(TrackKind::audio, {600, 300})));
+    }
+    for (const std::int64_t reachable : {2, 513, 598}) {
+        drive_->setState(FakeDrive::blankCd(359'849));
+        drive_->spoil(0, reachable);
+        EXPECT_EQ(codeOf(run(TrackKind::audio, {600, 300})), ScorchErrorCode::verifyFailed);
+    }
+}
+
 TEST_F(BurnJobTest, ASourceThatFailsEndsTheBurn) {
     beforeRead_ = [](std::int64_t sector) -> Outcome<> {
         return sector < 64 ? Outcome<>()

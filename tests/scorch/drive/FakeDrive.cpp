@@ -56,6 +56,14 @@ public:
         return {};
     }
 
+    Outcome<SectorRange> readableSectors(std::size_t track, std::int64_t sectors,
+                                         const std::stop_token & /*stop*/) override {
+        return track == 0 ? drive_.readable_.value_or(SectorRange{0, sectors})
+                          : SectorRange{0, sectors};
+    }
+
+    bool isComplete() const override { return drive_.isCompleteWhenRecorded_; }
+
     Result<void> commit() override {
         if (auto step = drive_.take("commit", {}); !step) {
             return std::get<ScorchError>(step.error());

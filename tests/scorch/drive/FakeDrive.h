@@ -32,6 +32,11 @@ public:
     /// Flips a bit of what is read back of the sector of a track.
     void spoil(std::size_t track, std::int64_t sector) { spoilt_ = {track, sector}; }
 
+    /// Only these sectors of the first track can be read back.
+    void limitReading(scorch::SectorRange range) { readable_ = range; }
+    /// A recording is complete before it is committed, as on a CD.
+    void completeWhenRecorded() { isCompleteWhenRecorded_ = true; }
+
     bool isRecording() const;
     int ejections() const { return ejections_; }
     std::size_t bytesRecorded() const { return bytesRecorded_; }
@@ -62,6 +67,8 @@ private:
     StepFunction step_;
     bool recording_ = false;
     std::optional<Place> spoilt_;
+    std::optional<scorch::SectorRange> readable_;
+    bool isCompleteWhenRecorded_ = false;
     int ejections_ = 0;
     std::size_t bytesRecorded_ = 0;
     std::string volumeName_;
