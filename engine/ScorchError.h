@@ -23,6 +23,9 @@ enum class ScorchErrorCode : int {
     discNotBlank = 24,
     discNotSuitable = 25,    ///< Not a CD, or not recordable.
     finishedBeforeStop = 26, ///< The disc was complete before the request to stop arrived.
+    driveNotAllowed = 27,    ///< The user may not open the drive.
+    driveSilent = 28,        ///< It does not answer, or does not become ready.
+    driveFailed = 29,        ///< It reports a fault, or refuses what it should be able to do.
 
     // What goes on the disc.
     sourceMissing = 30,
