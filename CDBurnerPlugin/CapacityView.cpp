@@ -5,8 +5,10 @@
 #include "CDBurnerPlugin/ResourceLocator.h"
 #include "CDBurnerPlugin/YUpGeometry.h"
 
+#include <QAccessible>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -147,6 +149,21 @@ void CapacityView::setDoubleValue(double doubleValue) {
     if (doubleValue != _doubleValue) {
         _doubleValue = doubleValue;
         setNeedsDisplay();
+    }
+    reportPercent();
+}
+
+int CapacityView::percent() const {
+    const double share = _maxValue > 0.0 ? _doubleValue / _maxValue : 0.0;
+    return static_cast<int>(std::clamp(share, 0.0, 1.0) * 100.0);
+}
+
+void CapacityView::reportPercent() {
+    // Here and not with each maximum: the two are set one after the other.
+    if (percent() != reportedPercent_) {
+        reportedPercent_ = percent();
+        QAccessibleValueChangeEvent changed(this, reportedPercent_);
+        QAccessible::updateAccessibility(&changed);
     }
 }
 

@@ -22,6 +22,9 @@ public:
     /// The value that is there already changes nothing and repaints nothing.
     void setMaxValue(double maxValue);
     void setDoubleValue(double doubleValue);
+    /// The value's share of the maximum in whole percents, 0 to 100, as it is told to assistive
+    /// technologies, which hear of each change.
+    int percent() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -38,8 +41,10 @@ protected:
 
 private:
     void setNeedsDisplay();
+    void reportPercent();
 
     double _doubleValue = 0.0;
     double _maxValue = 0.0;
+    int reportedPercent_ = 0;
     std::uint64_t displayRequests_ = 0;
 };

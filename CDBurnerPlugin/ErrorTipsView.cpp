@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/ErrorTipsView.h"
 
+#include "CDBurnerPlugin/AccessibleViews.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
 #include "CDBurnerPlugin/YUpGeometry.h"
 
@@ -40,8 +41,11 @@ void ErrorTipsView::setErrorTips(const QString &tips) {
     if (tips.isNull()) {
         return;
     }
-    _errorTips = tips;
-    setAccessibleName(tips);
+    if (tips != _errorTips) {
+        _errorTips = tips;
+        setAccessibleName(tips);
+        announce(this);
+    }
     ++displayRequests_;
     update();
 }

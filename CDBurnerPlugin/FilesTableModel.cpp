@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/FilesTableModel.h"
 
+#include "CDBurnerPlugin/Localization.h"
 #include "engine/ScorchString.h"
 #include "engine/Scorcher.h"
 
@@ -136,6 +137,12 @@ QVariant FilesTableModel::data(const QModelIndex &index, int role) const {
     case Qt::ToolTipRole:
         // A name may be longer than its column.
         return index.column() == filename ? text(index).toHtmlEscaped() : QVariant();
+    case Qt::AccessibleTextRole:
+        // The cell of the name speaks for its row, which is what the keyboard moves by.
+        return index.column() == filename
+                   ? filledFormat(localizedString("%@, %@"),
+                                  {text(index), text(index.siblingAtColumn(fileinfo))})
+                   : QVariant();
     case Qt::TextAlignmentRole: {
         const Qt::Alignment side = index.column() == fileinfo ? Qt::AlignRight : Qt::AlignLeft;
         return QVariant::fromValue(side | Qt::AlignVCenter);

@@ -107,6 +107,7 @@ void FilesTableView::dropEvent(QDropEvent *event) {
 void FilesTableView::paintEvent(QPaintEvent *event) {
     QTableView::paintEvent(event);
     if (!dropRow_ && !isDropTarget_) {
+        drawFocus();
         return;
     }
     QPainter painter(viewport());

@@ -82,6 +82,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void changeEvent(QEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -98,6 +100,7 @@ private:
     void fitToFont();
     void reportRow(qint64 row);
     void hoverAgain();
+    void drawFocus();
     void answerDrag(QDragMoveEvent *event);
     void clearDropFeedback();
 

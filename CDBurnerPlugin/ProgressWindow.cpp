@@ -10,20 +10,6 @@
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <cmath>
-
-namespace {
-
-/// Steps of the bar from empty to full: finer than its pixels.
-constexpr int barSteps = 2000;
-
-int barValue(double progress) {
-    return std::isnan(progress)
-               ? 0
-               : static_cast<int>(std::lround(std::clamp(progress, 0.0, 1.0) * barSteps));
-}
-
-} // namespace
 
 ProgressWindow::ProgressWindow(QWidget *parent)
     : QDialog(parent), ui_(std::make_unique<Ui::ProgressWindow>()) {
@@ -32,6 +18,8 @@ ProgressWindow::ProgressWindow(QWidget *parent)
     setWindowModality(Qt::WindowModal);
     setWindowTitle(localizedString("CD Burner"));
     connect(ui_->btnCancel, &QPushButton::clicked, this, &ProgressWindow::clickCancel);
+    ui_->btnCancel->installEventFilter(this);
+    ui_->progressIndicator->setAccessibleName(localizedString("Progress"));
     fitToFont();
     awakeFromNib();
 }
@@ -39,7 +27,6 @@ ProgressWindow::ProgressWindow(QWidget *parent)
 ProgressWindow::~ProgressWindow() = default;
 
 void ProgressWindow::awakeFromNib() {
-    ui_->progressIndicator->setRange(0, barSteps);
     setProgress(0.0);
     ui_->btnCancel->setText(localizedString("Cancel"));
     setTexts(QString(), QString());
@@ -77,6 +64,7 @@ bool ProgressWindow::isButtonOK() const {
 
 void ProgressWindow::clickCancel() {
     isAnimating_ = false;
+    showWork();
     if (myDelegate() == nullptr) {
         return;
     }
@@ -117,13 +105,43 @@ void ProgressWindow::setTexts(const QString &name, const QString &tips) {
 
 void ProgressWindow::setProgress(double progress) {
     progress_ = progress;
-    ui_->progressIndicator->setValue(barValue(progress));
+    ui_->progressIndicator->setProgress(progress);
+    showWork();
+}
+
+void ProgressWindow::showWork() {
+    // Before there is anything to measure, and while what goes on is being stopped.
+    const bool isStarting = isAnimating_ && progress_ == 0.0;
+    const bool isStopping = !ui_->btnCancel->isEnabled() && progress_ < 1.0;
+    ui_->progressIndicator->setBusy(isStarting || isStopping);
+}
+
+void ProgressWindow::announceTexts() {
+    announcedPercent_ = ui_->progressIndicator->percent();
+    ui_->txtName->announceText();
+    ui_->txtTips->announceText();
+}
+
+void ProgressWindow::announceIfDue() {
+    constexpr int tenth = 10; // Percents: time that passes is no news.
+    const bool isNewWork = ui_->txtName->text() != ui_->txtName->announcedText();
+    if (isNewWork || ui_->progressIndicator->percent() / tenth != announcedPercent_ / tenth) {
+        announceTexts();
+    }
+}
+
+bool ProgressWindow::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::EnabledChange) {
+        showWork();
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void ProgressWindow::updateNameTips(const QString &name, const QString &tips) {
     MainQueue::async([self = QPointer(this), name, tips] {
         if (self != nullptr) {
             self->setTexts(name, tips);
+            self->announceTexts();
         }
     });
 }
@@ -135,6 +153,7 @@ void ProgressWindow::updateProgressByNameTips(float progress, const QString &nam
             self->isAnimating_ = true;
             self->setProgress(static_cast<double>(progress));
             self->setTexts(name, tips);
+            self->announceIfDue();
         }
     });
 }

@@ -30,6 +30,10 @@ public:
 /// tips line and one button. Knows nothing of what goes on. Escape and the close box are a click on
 /// the button, and nothing while it is disabled.
 ///
+/// Screen readers hear of each step (updateNameTips), and of what lies between at each tenth of the
+/// way. The bar shows work without a measure until there is a progress, and while the button is
+/// disabled.
+///
 /// The four display operations, updateNameTips to closeSheet, may be called from any thread as long
 /// as the window exists; all of them go through the main queue, so they take effect in the order
 /// of the calls. Everything else is for the main thread.
@@ -84,6 +88,8 @@ public:
     /// What Escape does to a dialog: a click on the button.
     void reject() override;
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -95,6 +101,9 @@ private:
     void endSheet();
     bool isButtonOK() const;
     void fitToFont();
+    void showWork();
+    void announceTexts();
+    void announceIfDue();
 
     std::unique_ptr<Ui::ProgressWindow> ui_;
     qint64 _type = addingFilesType;
@@ -102,4 +111,5 @@ private:
     QPointer<QWidget> _parentWindow; // The window that the sheet was last begun on.
     double progress_ = 0.0;
     bool isAnimating_ = false;
+    int announcedPercent_ = 0; // Where the bar stood at the last announcement.
 };

@@ -2,6 +2,7 @@
 // How the window is built and its controls are wired.
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 
+#include "CDBurnerPlugin/AccessibleViews.h"
 #include "CDBurnerPlugin/BlockedCloseRequest.h"
 #include "CDBurnerPlugin/CapacityView.h"
 #include "CDBurnerPlugin/DeleteButton.h"
@@ -20,11 +21,17 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QThreadPool>
+#include <QTimer>
 #include <QToolButton>
+
+#include <chrono>
 
 namespace {
 
 constexpr int deleteButtonSize = 18; // Until it is placed over a row for the first time.
+
+/// A search for drives that takes longer is spoken of: a shorter one would only flicker.
+constexpr std::chrono::milliseconds longSearch{400};
 
 /// Has the global pool not count this thread of it while it waits: Qt paints large areas with the
 /// pool's help, and with all its threads waiting for the main thread both would wait for ever.
@@ -40,6 +47,7 @@ public:
 
 MainWindow *VXCDBurnerMainWindowController::window() {
     if (_window.isNull() && !_isDetached) {
+        installAccessibleViews();
         _window = new MainWindow;
         windowDidLoad();
     }
@@ -53,6 +61,7 @@ void VXCDBurnerMainWindowController::windowDidLoad() {
     _txtNoneDevice->hide();
     _cdTypePopup->addItems({localizedString("Audio CD"), localizedString("Data CD")});
     startFirstEnumeration();
+    tellOfLongSearch();
     _filesTableView->awakeFromNib();
     _filesTableView->registerForDraggedTypes({QLatin1String(fileNamesMimeType),
                                               QLatin1String(songListMimeType),
@@ -124,6 +133,14 @@ void VXCDBurnerMainWindowController::startFirstEnumeration() {
     });
 }
 
+void VXCDBurnerMainWindowController::tellOfLongSearch() {
+    QTimer::singleShot(longSearch, &_connections, [this] {
+        if (!_devicesAreKnown) {
+            showErrorTips("Looking for disc drives...");
+        }
+    });
+}
+
 void VXCDBurnerMainWindowController::setUpDrives(const std::vector<std::string> &deviceNames) {
     _devicesAreKnown = true;
     if (!deviceNames.empty()) {
@@ -159,6 +176,10 @@ void VXCDBurnerMainWindowController::setUpTexts() {
     _btnBurn->setToolTip(localizedString("Burn the list to the disc"));
     _cdTypePopup->setToolTip(localizedString("The type of disc to burn"));
     _cdTypePopup->setAccessibleName(localizedString("Disc type"));
+    // Where a popup's own name is what it reads, this is what labels it.
+    _icon4CDType->setBuddy(_cdTypePopup);
+    _icon4CDType->setAccessibleName(localizedString("Disc type"));
+    _dragImageView->setAccessibleName(localizedString("Drag music files here"));
     _btnHelp->setToolTip(localizedString("Help"));
     _btnHelp->setAccessibleName(localizedString("Help"));
     _filesTableView->setAccessibleName(localizedString("Burn list"));

@@ -163,6 +163,7 @@ private:
     void setUpActions();
     void createDeleteButton();
     void startFirstEnumeration();
+    void tellOfLongSearch();
     void setUpDrives(const std::vector<std::string> &deviceNames);
 
     // The drive.

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTextDocumentFragment>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -58,6 +59,8 @@ VXHelpWindow::VXHelpWindow(QWidget *parent)
     setWindowTitle(localizedString("Help"));
     setAccessibleName(localizedString("Help"));
     auto *bubble = new VXHelpView(this);
+    // A screen reader says it as soon as the bubble is shown.
+    bubble->setAccessibleName(QTextDocumentFragment::fromHtml(helpText()).toPlainText());
     auto *outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(bubble);

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>اسم الملف كاسم قائمة تشغيل، لكنه ليس كذلك.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>جارٍ البحث عن محركات الأقراص…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@، %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>مدى التقدّم</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>Die Datei heißt wie eine Wiedergabeliste, ist aber keine.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Laufwerke werden gesucht …</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
 </context>
 </TS>

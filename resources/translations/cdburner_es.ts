@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>El archivo tiene nombre de lista de reproducción, pero no lo es.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Buscando unidades de disco…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>Le fichier porte le nom d’une liste de lecture, mais n’en est pas une.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Recherche des lecteurs de disques…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>Il file ha il nome di una playlist, ma non lo è.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Ricerca delle unità disco…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
 </context>
 </TS>

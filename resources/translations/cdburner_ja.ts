@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>ファイル名はプレイリストのようですが、プレイリストではありません。</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>ドライブを探しています…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@、%@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>O arquivo tem nome de lista de reprodução, mas não é uma.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Procurando unidades de disco…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>Файл назван как плейлист, но им не является.</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>Поиск приводов…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@, %@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
 </context>
 </TS>

@@ -572,5 +572,17 @@
         <source>The file is named like a playlist but is none.</source>
         <translation>该文件的名称像播放列表，但它不是播放列表。</translation>
     </message>
+    <message>
+        <source>Looking for disc drives...</source>
+        <translation>正在查找光驱…</translation>
+    </message>
+    <message>
+        <source>%@, %@</source>
+        <translation>%@，%@</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Where the keyboard is in the list.
+#include "CDBurnerPlugin/FilesTableView.h"
+
+#include "CDBurnerPlugin/FilesTableModel.h"
+
+#include <QItemSelectionModel>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+QModelIndex FilesTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    // By rows: the cell of the name is the one that a screen reader reads the row by.
+    return QTableView::moveCursor(action, modifiers).siblingAtColumn(FilesTableModel::filename);
+}
+
+void FilesTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
+    QTableView::currentChanged(current, previous);
+    // The frame goes around whole rows, the base class sees to single cells.
+    for (const QModelIndex &index : {current, previous}) {
+        if (index.isValid()) {
+            viewport()->update(rectOfRow(index.row()));
+        }
+    }
+}
+
+void FilesTableView::drawFocus() {
+    if (!hasFocus()) {
+        return;
+    }
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.palette = viewport()->palette();
+    option.backgroundColor = option.palette.color(QPalette::Base);
+    option.rect = viewport()->rect();
+    const QModelIndex current = currentIndex();
+    if (current.isValid()) {
+        option.rect = rectOfRow(current.row());
+        if (!selectionModel()->isRowSelected(current.row())) {
+            // Nothing else shows it, however the focus came here.
+            option.state |= QStyle::State_KeyboardFocusChange;
+        }
+    }
+    QPainter painter(viewport());
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
