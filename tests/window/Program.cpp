@@ -5,14 +5,14 @@
 
 #include <QJsonDocument>
 
-#include <gtest/gtest.h>
+#include <stdexcept>
 
 QJsonObject Program::ask(const QJsonObject &question) {
     const QByteArray line = QJsonDocument(question).toJson(QJsonDocument::Compact);
     std::string answer;
     if (!process_.writeLine(line.toStdString()) || !process_.readLine(answer, waitLimit)) {
-        ADD_FAILURE() << (process_.isRunning() ? "no answer" : "the program has ended");
-        return {};
+        throw std::runtime_error(process_.isRunning() ? "a program does not answer"
+                                                      : "a program has ended");
     }
     return QJsonDocument::fromJson(QByteArray::fromStdString(answer)).object();
 }

@@ -11,7 +11,7 @@ public:
     Program(const std::vector<std::string> &arguments, const std::string &errorFile)
         : process_(arguments, errorFile) {}
 
-    /// Fails the test, and answers nothing, when the program has ended or does not answer.
+    /// Ends the test, by an exception, when the program has ended or does not answer.
     QJsonObject ask(const QJsonObject &question = {});
 
     ChildProcess &process() { return process_; }

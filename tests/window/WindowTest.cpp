@@ -113,6 +113,10 @@ QPoint WindowTest::pointInRow(int row) {
     return {rect.x() + rect.width() / 4, rect.center().y()};
 }
 
+QPoint WindowTest::pointInSong(int row) {
+    return rectFrom(part("songs")["rows"].toArray().at(row).toObject()).center();
+}
+
 std::vector<std::string> WindowTest::list() {
     std::vector<std::string> names;
     for (const QJsonValue row : part("list")["rows"].toArray()) {
@@ -156,7 +160,7 @@ void WindowTest::offer(const std::map<std::string, std::string> &formats) {
     neighbour_->ask({{"offer", data}});
 }
 
-void WindowTest::dragFromNeighbour(const QPoint &to) {
+void WindowTest::dragFromNeighbour(const QPoint &to, Answer answer) {
     const QRect source = rectFrom(neighbour_->ask());
     Hand::moveTo(source.center());
     Hand::press();
@@ -165,13 +169,35 @@ void WindowTest::dragFromNeighbour(const QPoint &to) {
         Hand::moveTo(source.center() + QPoint(31, 0));
         return neighbour_->ask()["isDragging"].toBool();
     });
+    holdAt(to, answer, *neighbour_);
+}
+
+void WindowTest::dragInHost(const QPoint &from, const QPoint &to, Answer answer) {
+    Hand::moveTo(from);
+    Hand::press();
+    waitUntil("the drag begins", [&] {
+        Hand::moveTo(from + QPoint(15, 0));
+        Hand::moveTo(from + QPoint(16, 0));
+        return state()["cursor"].toInt() != -1;
+    });
+    holdAt(to, answer, *host_);
+}
+
+void WindowTest::dragOnTo(const QPoint &to, Answer answer) {
+    holdAt(to, answer, *host_);
+}
+
+void WindowTest::holdAt(const QPoint &to, Answer answer, Program &source) {
+    const bool isTaken = answer == Answer::taken;
+    const QLatin1String expected(isTaken ? "taken" : "refused");
+    const int pointer = isTaken ? Qt::DragCopyCursor : Qt::ForbiddenCursor;
     // The place is told again and again, for a program may miss it while it still answers about
     // the one before.
-    waitUntil("the drag is known at its place", [&] {
+    waitUntil("the drag is answered at its place", [&] {
         Hand::moveTo(to + QPoint(1, 0));
         Hand::moveTo(to);
-        const int cursor = neighbour_->ask()["cursor"].toInt();
-        return isNear(state()["dragPoint"], to) && cursor == Qt::DragCopyCursor;
+        return isNear(state()["dragPoint"], to) && state()["dragAnswer"] == expected &&
+               source.ask()["cursor"].toInt() == pointer;
     });
 }
 
@@ -182,9 +208,14 @@ std::string WindowTest::dropFromNeighbour() {
     return neighbour_->ask()["result"].toString().toStdString();
 }
 
-std::string WindowTest::dropOn(const QPoint &place) {
-    dragFromNeighbour(place);
+std::string WindowTest::dropOn(const QPoint &place, Answer answer) {
+    dragFromNeighbour(place, answer);
     return HasFatalFailure() ? std::string("no drag") : dropFromNeighbour();
+}
+
+void WindowTest::dropInHost() {
+    Hand::release();
+    waitUntil("the drag is over", [this] { return state()["cursor"].toInt() == -1; });
 }
 
 std::string WindowTest::address(const std::filesystem::path &path) {

@@ -51,6 +51,8 @@ protected:
     /// On the edge of a row's right end stands the delete button, so this is in its left half.
     QPoint pointInRow(int row);
     QRect rectOfRow(int row);
+    /// The same in the host's own table.
+    QPoint pointInSong(int row);
 
     /// The first column of the list, and the rows that are selected.
     std::vector<std::string> list();
@@ -67,16 +69,24 @@ protected:
     /// Puts the text cursor into the empty volume name field, as a click and Ctrl+A, Delete do.
     void clearVolumeName();
 
+    /// What the host answers to something that is held over it.
+    enum class Answer { taken, refused };
+
     /// What the neighbour's next drag carries: formats and their data.
     void offer(const std::map<std::string, std::string> &formats);
-    /// Presses the left button there and carries what is dragged to `to`, until the program over
-    /// which it is held knows of the place and the source of its answer. The button stays down.
-    void dragFromNeighbour(const QPoint &to);
-    void dragInHost(const QPoint &from, const QPoint &to);
+    /// Presses the left button there and carries what is dragged to a place in the host, until the
+    /// host has answered so, and the source has heard. The button stays down.
+    void dragFromNeighbour(const QPoint &to, Answer answer);
+    /// The same from one place of the host to another.
+    void dragInHost(const QPoint &from, const QPoint &to, Answer answer);
+    /// Carries what is dragged inside the host on to another place.
+    void dragOnTo(const QPoint &to, Answer answer);
     /// Lets go, and what the neighbour hears of it: "copy", "move" or "ignore".
     std::string dropFromNeighbour();
     /// All of it: the drag, the drop, and its result.
-    std::string dropOn(const QPoint &place);
+    std::string dropOn(const QPoint &place, Answer answer = Answer::taken);
+    /// Lets go of what is dragged inside the host.
+    void dropInHost();
 
     /// A path as a line of a list of addresses (RFC 2483), its bytes kept.
     static std::string address(const std::filesystem::path &path);
@@ -92,5 +102,6 @@ protected:
 
 private:
     std::string description();
+    void holdAt(const QPoint &to, Answer answer, Program &source);
     bool isSettled();
 };

@@ -2,7 +2,7 @@
 #include "tests/window/host/HostProbe.h"
 
 #include <QAbstractButton>
-#include <QApplication>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCursor>
 #include <QDropEvent>
@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -84,6 +85,7 @@ QJsonObject windowsState() {
         if (window->isVisible() && window->internalWinId() != 0) {
             QJsonObject state = place(onScreen(*window));
             state["title"] = window->windowTitle();
+            state["content"] = place(QRect(QPoint(), window->minimumSizeHint()));
             state["id"] = static_cast<qint64>(window->internalWinId());
             windows[nameOf(window)] = state;
         }
@@ -132,10 +134,6 @@ QAbstractItemView *tableNamed(const char *name) {
 
 } // namespace
 
-HostProbe::HostProbe() {
-    qApp->installEventFilter(this);
-}
-
 QJsonObject HostProbe::state() const {
     QJsonObject all{{"windows", windowsState()},
                     {"widgets", widgetsState()},
@@ -143,7 +141,7 @@ QJsonObject HostProbe::state() const {
                     {"focus", nameOf(QApplication::focusWidget())},
                     {"alert", alertState()},
                     {"cursor", -1},
-                    {"dropCount", dropCount_},
+                    {"dragAnswer", dragAnswer_},
                     {"shows", shows_},
                     {"hides", hides_},
                     {"screens", screensState()}};
@@ -162,23 +160,26 @@ QJsonObject HostProbe::state() const {
     return all;
 }
 
-bool HostProbe::eventFilter(QObject *watched, QEvent *event) {
-    const auto *widget = qobject_cast<QWidget *>(watched);
-    if (widget == nullptr) {
-        return false;
+void HostProbe::seeDrag(const QWidget &widget, const QDropEvent &event) {
+    dragPoint_ = widget.mapToGlobal(event.position().toPoint());
+    dragAnswer_ = event.isAccepted() ? QStringLiteral("taken") : QStringLiteral("refused");
+}
+
+bool HostProbe::notify(QObject *receiver, QEvent *event) {
+    const QPointer<QWidget> widget = qobject_cast<QWidget *>(receiver);
+    const bool result = QApplication::notify(receiver, event); // Answers first, is looked at then.
+    if (widget.isNull()) {
+        return result;
     }
     const bool isDeleteButton = widget->objectName() == QLatin1String("_btnDelete");
     switch (event->type()) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
-        dragPoint_ = widget->mapToGlobal(static_cast<QDropEvent *>(event)->position().toPoint());
+        seeDrag(*widget, *static_cast<QDropEvent *>(event));
         break;
     case QEvent::DragLeave:
-        dragPoint_.reset();
-        break;
     case QEvent::Drop:
         dragPoint_.reset();
-        ++dropCount_;
         break;
     case QEvent::Show:
         shows_ += isDeleteButton ? 1 : 0;
@@ -189,5 +190,5 @@ bool HostProbe::eventFilter(QObject *watched, QEvent *event) {
     default:
         break;
     }
-    return false;
+    return result;
 }

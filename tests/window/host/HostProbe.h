@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
-#include <QAbstractItemView>
+#include <QApplication>
 #include <QJsonObject>
-#include <QObject>
 #include <QPoint>
+#include <QString>
 
 #include <optional>
 
-/// Tells what a person at the screen would see of this program, and nothing else: it only looks.
-/// Places are in pixels of the screen. Main thread.
-class HostProbe : public QObject {
+class QDropEvent;
+
+/// The application object of a program that is looked at: tells what a person at the screen would
+/// see, and nothing else. Places are in pixels of the screen. Main thread.
+class HostProbe final : public QApplication {
     Q_OBJECT
 
 public:
-    HostProbe();
+    using QApplication::QApplication;
 
     /// Everything at once:
     ///  "windows": of the visible ones, by name or class, "title", "id" and place;
@@ -23,16 +25,19 @@ public:
     ///  "active", "focus": names of the active window and of the widget with the focus;
     ///  "alert": the buttons of the alert that is up, by their texts;
     ///  "cursor": the shape of the pointer during a drag, else -1;
-    ///  "dragPoint": where something is held over a widget of ours, "dropCount": drops so far;
-    ///  "shows", "hides": of the floating delete button, so far; "clicks": of buttons, by name;
+    ///  "dragPoint": where something is held over a widget of ours, "dragAnswer": what that widget
+    ///  answered: "taken" or "refused";
+    ///  "shows", "hides": of the floating delete button, so far;
     ///  "screens": what the program sees of them.
     QJsonObject state() const;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    bool notify(QObject *receiver, QEvent *event) override;
 
 private:
+    void seeDrag(const QWidget &widget, const QDropEvent &event);
+
     std::optional<QPoint> dragPoint_;
-    int dropCount_ = 0;
+    QString dragAnswer_;
     int shows_ = 0;
     int hides_ = 0;
 };

@@ -6,8 +6,6 @@
 #include "tests/window/LineServer.h"
 #include "tests/window/host/HostProbe.h"
 
-#include <QApplication>
-
 #include <cstdio>
 #include <span>
 #include <string>
@@ -20,11 +18,11 @@ int main(int argc, char *argv[]) {
         return 2;
     }
     int count = 1;
-    const QApplication application(count, argv);
+    const HostProbe application(count, argv);
     QApplication::setApplicationName(QStringLiteral("crate"));
     QApplication::setDesktopFileName(QStringLiteral("crate"));
-    const HostProbe probe;
-    const LineServer server([&probe](const QJsonObject & /*question*/) { return probe.state(); });
+    const LineServer server(
+        [&application](const QJsonObject & /*question*/) { return application.state(); });
     std::string error;
     const auto program =
         crate::Crate::create(std::get<crate::CommandLine>(parsed), CDBURNER_TOOLS_DIR, error);

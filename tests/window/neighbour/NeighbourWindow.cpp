@@ -7,7 +7,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
-NeighbourWindow::NeighbourWindow() {
+NeighbourWindow::NeighbourWindow() : reply_([this](const QString &result) { end(result); }) {
     setWindowTitle(QStringLiteral("Neighbour"));
     resize(160, 120);
 }
@@ -51,15 +51,22 @@ void NeighbourWindow::drag() {
     auto *const drag = new QDrag(this); // Qt's own, which deletes it.
     auto *const mime = new QMimeData;
     for (auto entry = offer_.constBegin(); entry != offer_.constEnd(); ++entry) {
-        mime->setData(entry.key(), QByteArray::fromBase64(entry.value().toString().toLatin1()));
+        const QJsonValue &value = entry.value();
+        mime->setData(entry.key(), value.isDouble()
+                                       ? QByteArray(value.toInteger(), '\0')
+                                       : QByteArray::fromBase64(value.toString().toLatin1()));
     }
     drag->setMimeData(mime);
     pressed_.reset();
     isDragging_ = true;
     const Qt::DropAction action = drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    if (action == Qt::IgnoreAction) {
+        end(QStringLiteral("ignore")); // There was no drop, so there is no answer to come.
+    }
+}
+
+void NeighbourWindow::end(const QString &result) {
     isDragging_ = false;
     ++drags_;
-    result_ = action == Qt::CopyAction   ? QStringLiteral("copy")
-              : action == Qt::MoveAction ? QStringLiteral("move")
-                                         : QStringLiteral("ignore");
+    result_ = result;
 }

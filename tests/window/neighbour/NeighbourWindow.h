@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "tests/window/neighbour/DropReply.h"
+
 #include <QJsonObject>
 #include <QPoint>
 #include <QString>
@@ -16,11 +18,13 @@ class NeighbourWindow : public QWidget {
 public:
     NeighbourWindow();
 
-    /// "offer": formats and their data, in base64: what the next drag carries.
+    /// "offer": formats and their data, in base64: what the next drag carries. A number in place of
+    /// the data stands for so many zero bytes.
     /// "clipboard": a text that this program puts on the clipboard.
     /// Answers "id" and place of the window; "active"; "isDragging"; "cursor", the shape of the
-    /// pointer during a drag; "drags", how many have ended; "result", of the last one: "copy",
-    /// "move" or "ignore"; "clipboard", the text on the clipboard if it is this program's.
+    /// pointer during a drag; "drags", how many have ended, by a drop that the target
+    /// has answered or without one; "result", of the last one: "copy", "move" or "ignore";
+    /// "clipboard", the text on the clipboard if it is this program's.
     QJsonObject answer(const QJsonObject &question);
 
 protected:
@@ -29,10 +33,12 @@ protected:
 
 private:
     void drag();
+    void end(const QString &result);
 
     QJsonObject offer_;
     std::optional<QPoint> pressed_;
     bool isDragging_ = false;
     int drags_ = 0;
     QString result_;
+    DropReply reply_;
 };

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/window/neighbour/DropReply.h"
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <utility>
+#include <xcb/xcb.h>
+
+namespace {
+
+constexpr std::uint8_t sentByClient = 0x80;
+
+xcb_atom_t atomNamed(const char *name) {
+    xcb_connection_t *const connection =
+        qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
+    return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+} // namespace
+
+DropReply::DropReply(std::function<void(const QString &)> finished)
+    : finished_(std::move(finished)) {
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+DropReply::~DropReply() {
+    QCoreApplication::instance()->removeNativeEventFilter(this);
+}
+
+bool DropReply::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
+                                  qintptr * /*result*/) {
+    const auto *const event = static_cast<const xcb_client_message_event_t *>(message);
+    const auto type = static_cast<std::uint8_t>(event->response_type & ~sentByClient);
+    if (type != XCB_CLIENT_MESSAGE || event->type != atomNamed("XdndFinished")) {
+        return false;
+    }
+    const bool isTaken = (event->data.data32[1] & 1U) != 0;
+    const bool isMove = event->data.data32[2] == atomNamed("XdndActionMove");
+    finished_(!isTaken ? QStringLiteral("ignore")
+              : isMove ? QStringLiteral("move")
+                       : QStringLiteral("copy"));
+    return false;
+}
