@@ -2,11 +2,25 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
 class ScorcherDeviceDelegate;
+
+/// A drive and its disc in detail, for a person who asks. What is not known is empty.
+struct ScorcherDeviceDescription {
+    std::string vendor; ///< As the drive says it, ASCII.
+    std::string model;
+    std::string revision;         ///< Of its firmware.
+    std::filesystem::path node;   ///< The device node; of an image drive its folder.
+    std::string medium;           ///< "CD-R", "DVD+RW".
+    std::vector<int> writeSpeeds; ///< For this disc, 1000 bytes a second, fastest first.
+    std::string problem;          ///< Why the drive cannot be used at present, for a person.
+
+    bool operator==(const ScorcherDeviceDescription &) const = default;
+};
 
 /// A handle on one drive. Main thread only, but for devices(). Queries answer at once from what
 /// the engine knows; they never touch the drive. The handle may be destroyed at any time, also
@@ -43,6 +57,9 @@ public:
     virtual std::int64_t freeTimeOfDisc() const = 0;
     /// Free space of a blank disc in bytes (2048 a sector); 0 without one.
     virtual std::int64_t freeSizeOfDisc() const = 0;
+
+    /// All empty for a drive that is not there.
+    virtual ScorcherDeviceDescription description() const { return {}; }
 
     /// Puts the disc out. Ignored while the drive burns.
     virtual void eject() = 0;

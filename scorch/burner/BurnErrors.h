@@ -2,12 +2,11 @@
 #pragma once
 
 #include "engine/ScorchError.h"
-#include "scorch/drive/Drive.h"
+#include "scorch/drive/DiscError.h"
 #include "scorch/support/DiscContent.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <string>
 
 namespace scorch {
@@ -34,8 +33,5 @@ ScorchError sourceError(const std::filesystem::path &path, int error);
 /// empty for the parts of a data disc between files.
 ScorchError differenceError(TrackKind kind, std::size_t track, std::int64_t sector,
                             const std::string &name);
-
-/// Why the disc in a drive cannot be burned; nothing if it can.
-std::optional<ScorchError> discError(const std::string &driveName, const DriveState &state);
 
 } // namespace scorch

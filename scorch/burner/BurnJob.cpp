@@ -143,6 +143,9 @@ Outcome<> recordContent(const BurnRequest &request, DiscContent &content, Report
 
 Outcome<> burn(const BurnRequest &request, BurnObserver &observer, const std::stop_token &stop) {
     observer.stageBegan({BurnStageKind::preparing});
+    if (const auto error = request.drive->obstacle()) {
+        return Interruption(*error);
+    }
     if (const auto error = discError(request.drive->name(), request.drive->state())) {
         return Interruption(*error);
     }

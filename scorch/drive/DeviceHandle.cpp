@@ -62,6 +62,11 @@ std::int64_t DeviceHandle::freeSizeOfDisc() const {
     return freeTimeOfDisc() * static_cast<std::int64_t>(dataSectorBytes);
 }
 
+ScorcherDeviceDescription DeviceHandle::description() const {
+    const std::shared_ptr<Drive> present = drive();
+    return present != nullptr ? present->description() : ScorcherDeviceDescription();
+}
+
 void DeviceHandle::eject() {
     if (registry_->isTaken(watch_->name)) {
         return;

@@ -25,6 +25,7 @@ public:
     bool isCDDisc() const override;
     std::int64_t freeTimeOfDisc() const override;
     std::int64_t freeSizeOfDisc() const override;
+    ScorcherDeviceDescription description() const override;
     void eject() override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "engine/ScorcherDevice.h"
 #include "scorch/support/DiscContent.h"
 #include "scorch/support/Result.h"
 
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <stop_token>
 #include <string>
@@ -108,6 +110,17 @@ public:
 
     /// `changed` is called on any thread, under no lock, after each real change of state().
     virtual void setStateObserver(std::function<void()> changed) = 0;
+
+    /// Whether anybody looks at the drive: holds a handle on it. A drive that nobody looks at is
+    /// left alone; state() is then what was known last. Main thread; returns at once. By the time
+    /// it has, state() says `checking` where the drive has yet to find out what it holds.
+    virtual void setWatched(bool /*watched*/) {}
+
+    virtual ScorcherDeviceDescription description() const { return {}; }
+
+    /// Why the drive cannot be used at present, whatever is in it: nobody may open it, it does not
+    /// answer. Nothing where it can.
+    virtual std::optional<ScorchError> obstacle() const { return std::nullopt; }
 
     /// Starts to put the disc out; ignored while a recording holds the drive.
     virtual void eject() = 0;

@@ -29,7 +29,7 @@ DriveRegistry::~DriveRegistry() {
 
 void DriveRegistry::shutDown() {
     ended_ = true;
-    std::call_once(searched_, [] {}); // Waits for a search that runs; none begins any more.
+    waitForSearch(); // None begins any more.
     sources_.clear();
     std::vector<std::shared_ptr<Drive>> drives;
     {
@@ -92,6 +92,11 @@ void DriveRegistry::search() {
     }
 }
 
+/// A drive that comes or goes while the search runs is one of those that it found.
+void DriveRegistry::waitForSearch() {
+    std::call_once(searched_, [] {});
+}
+
 void DriveRegistry::add(const std::shared_ptr<Drive> &drive) {
     {
         const std::lock_guard lock(mutex_);
@@ -105,8 +110,10 @@ void DriveRegistry::add(const std::shared_ptr<Drive> &drive) {
 }
 
 void DriveRegistry::driveAppeared(const std::shared_ptr<Drive> &drive) {
+    waitForSearch();
     add(drive);
     postToMain([name = drive->name()](DriveRegistry &registry) {
+        registry.updateWatched(name); // By a handle that was made before the drive came.
         if (auto *delegate = registry.lastDelegate_.get()) {
             delegate->deviceDidAppeared(name);
         }
@@ -115,6 +122,7 @@ void DriveRegistry::driveAppeared(const std::shared_ptr<Drive> &drive) {
 }
 
 void DriveRegistry::driveDisappeared(const std::string &name) {
+    waitForSearch();
     if (const std::shared_ptr<Drive> drive = findPresent(name)) {
         drive->setStateObserver(nullptr);
         const std::lock_guard lock(mutex_);
@@ -177,8 +185,10 @@ void DriveRegistry::settle(const std::string &name) {
 std::unique_ptr<ScorcherDevice> DriveRegistry::makeHandle(const std::string &name) {
     auto watch = std::make_shared<DeviceWatch>();
     watch->name = name;
-    watch->seen = stateOf(find(name));
     watches_.push_back(watch);
+    find(name); // Searches, if nobody has yet.
+    updateWatched(name);
+    watch->seen = stateOf(findPresent(name));
     return std::make_unique<DeviceHandle>(shared_from_this(), std::move(watch));
 }
 
@@ -195,13 +205,22 @@ void DriveRegistry::setDelegate(DeviceWatch &watch, ScorcherDeviceDelegate *dele
     }
 }
 
+void DriveRegistry::updateWatched(const std::string &name) {
+    if (const std::shared_ptr<Drive> drive = findPresent(name)) {
+        drive->setWatched(std::any_of(watches_.begin(), watches_.end(),
+                                      [&name](const auto &watch) { return watch->name == name; }));
+    }
+}
+
 void DriveRegistry::forget(const DeviceWatch *watch) {
+    const std::string name = watch->name;
     watches_.erase(std::remove_if(watches_.begin(), watches_.end(),
                                   [watch](const auto &other) { return other.get() == watch; }),
                    watches_.end());
     if (lastSetter_ == watch) {
         lastSetter_ = nullptr; // Its address may come back; its delegate goes on being told.
     }
+    updateWatched(name);
 }
 
 } // namespace scorch

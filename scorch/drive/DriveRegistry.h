@@ -60,11 +60,13 @@ private:
     DriveRegistry(std::vector<std::unique_ptr<DriveSource>> sources, PostTask post);
 
     void search();
+    void waitForSearch();
     void add(const std::shared_ptr<Drive> &drive);
     void driveAppeared(const std::shared_ptr<Drive> &drive);
     void driveDisappeared(const std::string &name);
     void postStateCheck(const std::string &name);
     void tellState(const std::string &name);
+    void updateWatched(const std::string &name);
     void postToMain(std::function<void(DriveRegistry &)> task);
     std::shared_ptr<Drive> findPresent(const std::string &name);
 

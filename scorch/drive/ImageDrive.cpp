@@ -78,6 +78,12 @@ void ImageDrive::setDisc(const DiscState &disc) {
     }
 }
 
+ScorcherDeviceDescription ImageDrive::description() const {
+    ScorcherDeviceDescription description;
+    description.node = options_.folder;
+    return description;
+}
+
 void ImageDrive::eject() {
     {
         const std::lock_guard lock(mutex_);

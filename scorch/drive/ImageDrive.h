@@ -22,6 +22,7 @@ public:
     const std::string &name() const override { return name_; }
     DriveState state() const override;
     void setStateObserver(std::function<void()> changed) override;
+    ScorcherDeviceDescription description() const override;
     void eject() override;
     Outcome<std::unique_ptr<DiscRecording>> beginRecording(const DiscContent &content,
                                                            const std::stop_token &stop) override;
