@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/mmc/DriveExamination.h"
+
+#include "scorch/mmc/DriveErrors.h"
+
+#include <utility>
+
+namespace scorch {
+namespace {
+
+bool isSense(const MmcError &error, std::uint8_t key) {
+    return error.kind == MmcError::Kind::sense && error.sense.key == key;
+}
+
+/// For drives without event notification: whether they are ready says as much.
+Result<MediaEvent, MmcError> eventFromReadiness(MmcDevice &device,
+                                                const std::optional<MediaEvent> &before) {
+    constexpr std::uint8_t notReady = 2;
+    constexpr std::uint8_t unitAttention = 6;
+    Result<void, MmcError> ready = testUnitReady(device);
+    const bool isAttention = !ready && isSense(ready.error(), unitAttention);
+    if (isAttention) {
+        ready = testUnitReady(device);
+    }
+    MediaEvent event{.changed = isAttention, .trayOpen = false, .mediumPresent = ready.ok()};
+    if (!ready) {
+        const MmcError &error = ready.error();
+        if (!isSense(error, notReady)) {
+            return error;
+        }
+        event.mediumPresent = error.sense.asc != 0x3A;
+        event.trayOpen = error.sense.asc == 0x3A && error.sense.ascq == 0x02;
+    }
+    event.changed |= before && before->mediumPresent != event.mediumPresent;
+    return event;
+}
+
+Result<MediaEvent, MmcError> mediaEvent(MmcDevice &device,
+                                        const std::optional<MediaEvent> &before) {
+    constexpr std::uint8_t illegalRequest = 5;
+    Result<MediaEvent, MmcError> event = readMediaEvent(device);
+    if (!event && isSense(event.error(), illegalRequest)) {
+        return eventFromReadiness(device, before);
+    }
+    if (event && before) {
+        event->changed |=
+            event->mediumPresent != before->mediumPresent || event->trayOpen != before->trayOpen;
+    }
+    return event;
+}
+
+void fail(DriveFindings &findings, const ExaminedDrive &drive, const MmcError &error) {
+    findings.failure = error;
+    findings.medium = {};
+    if (!findings.isInterrupted()) {
+        findings.obstacle = driveError(
+            error, {.driveName = drive.name, .node = drive.node, .sector = std::nullopt});
+    }
+    if (error.kind == MmcError::Kind::noPermission) {
+        findings.canWriteCd = false; // Whatever the drive can do, nothing of it is for this user.
+    }
+}
+
+} // namespace
+
+DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &stop) {
+    DriveFindings findings;
+    Result<MmcDevice, MmcError> device = drive.open(drive.node);
+    if (!device) {
+        fail(findings, drive, device.error());
+        return findings;
+    }
+    const Result<MediaEvent, MmcError> event = mediaEvent(*device, std::nullopt);
+    if (!event) { // Nothing that a working drive refuses.
+        fail(findings, drive, event.error());
+        return findings;
+    }
+    findings.tray = *event;
+    const Result<bool, MmcError> canWrite = readCanWriteCd(*device);
+    if (canWrite) {
+        findings.canWriteCd = *canWrite;
+    }
+    Result<MediumState, MmcError> medium = examineMedium(*device, drive.patience, stop);
+    if (medium) {
+        findings.medium = std::move(*medium);
+    } else {
+        fail(findings, drive, medium.error());
+    }
+    return findings;
+}
+
+Result<MediaEvent, MmcError> glanceAtDrive(const ExaminedDrive &drive,
+                                           const std::optional<MediaEvent> &before) {
+    Result<MmcDevice, MmcError> device = drive.open(drive.node);
+    if (!device) {
+        return device.error();
+    }
+    return mediaEvent(*device, before);
+}
+
+DiscState discState(const MediumState &medium) {
+    const bool isRecordable =
+        medium.kind == MediumState::Kind::cdR || medium.kind == MediumState::Kind::cdRw;
+    const bool isBlank = isRecordable && medium.contents == MediumState::Contents::blank;
+    return {.present = medium.kind != MediumState::Kind::none,
+            .isCd = medium.isCd(),
+            .blank = isBlank,
+            .freeSectors = isBlank ? medium.freeSectors : 0};
+}
+
+} // namespace scorch
