@@ -3,9 +3,13 @@
 
 #include "engine/ScorchHooks.h"
 #include "scorch/burner/AudioKind.h"
+#include "scorch/burner/BurnErrors.h"
 #include "scorch/burner/DataContent.h"
 #include "scorch/burner/DataKind.h"
 #include "scorch/drive/ImageDriveSource.h"
+#include "scorch/mmc/OpticalDriveSource.h"
+#include "scorch/mmc/PollingWatcher.h"
+#include "scorch/udev/UdevWatcher.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -29,14 +33,34 @@ unsigned decoderThreads() {
     return std::max(std::thread::hardware_concurrency(), 1U);
 }
 
-bool isVerifyWanted() {
-    const char *const setting = std::getenv("SCORCH_VERIFY");
+/// A setting of the environment that is on unless it is "0".
+bool isWanted(const char *name) {
+    const char *const setting = std::getenv(name);
     return setting == nullptr || std::string_view(setting) != "0";
+}
+
+std::unique_ptr<DeviceWatcher> watchDevices() {
+    if (isWanted("SCORCH_UDEV")) {
+        if (std::unique_ptr<DeviceWatcher> watcher = UdevWatcher::create()) {
+            return watcher;
+        }
+    }
+    return std::make_unique<PollingWatcher>();
+}
+
+OpticalDriveServices driveServices() {
+    OpticalDriveServices services;
+    services.record = [](const RecordingTarget &target, const DiscContent &,
+                         const std::stop_token &) -> Outcome<std::unique_ptr<DiscRecording>> {
+        return Interruption(internalError("no recording on " + target.node.native()));
+    };
+    return services;
 }
 
 std::vector<std::unique_ptr<DriveSource>> driveSources() {
     std::vector<std::unique_ptr<DriveSource>> sources;
-    sources.push_back(std::make_unique<ImageDriveSource>());
+    sources.push_back(std::make_unique<ImageDriveSource>()); // Somebody has asked for those.
+    sources.push_back(std::make_unique<OpticalDriveSource>(watchDevices, driveServices()));
     return sources;
 }
 
@@ -82,10 +106,10 @@ Engine &Engine::shared() {
 Engine::Engine() {
     ScorchHooks::shared(); // Made first, so that it outlives the engine at the end of the process.
     drives_ = DriveRegistry::create(driveSources(), postThroughHook);
-    const BurnerServices services{.post = postThroughHook,
-                                  .clock = systemClock(),
-                                  .drives = drives_,
-                                  .verify = isVerifyWanted};
+    const BurnerServices services{
+        .post = postThroughHook, .clock = systemClock(), .drives = drives_, .verify = [] {
+            return isWanted("SCORCH_VERIFY");
+        }};
     audioBurner_ = Burner::create(audioKind(), services);
     dataBurner_ = Burner::create(dataKind(), services);
 }
