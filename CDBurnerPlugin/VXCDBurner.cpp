@@ -2,6 +2,7 @@
 #include "CDBurnerPlugin/VXCDBurner.h"
 
 #include "CDBurnerPlugin/Localization.h"
+#include "CDBurnerPlugin/Log.h"
 #include "CDBurnerPlugin/MainQueue.h"
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 #include "CDBurnerPlugin/VXUtilitiesToolContextContainer.h"
@@ -22,6 +23,10 @@ void fillEngineHooks() {
     };
     hooks.decimalMark = [] {
         return QLocale().decimalPoint().toStdString();
+    };
+    hooks.log = [](std::string_view line) {
+        qCInfo(toolLog).noquote() << QString::fromUtf8(line.data(),
+                                                       static_cast<qsizetype>(line.size()));
     };
     hooks.localizedText = [](std::string_view key) {
         return localizedString(std::string(key).c_str()).toStdString();

@@ -17,6 +17,8 @@
 #include <cstdlib>
 #include <langinfo.h>
 #include <memory>
+#include <string>
+#include <string_view>
 #include <type_traits>
 #include <unistd.h>
 
@@ -47,10 +49,13 @@ void setEnvironment(const std::optional<ImageDriveOption> &imageDrive, bool veri
     }
 }
 
-void fillHooks(MainLoop &loop) {
+void fillHooks(MainLoop &loop, Output &errors) {
     ScorchHooks &hooks = ScorchHooks::shared();
     hooks.postToMainThread = [&loop](std::function<void()> task) {
         loop.post(std::move(task));
+    };
+    hooks.log = [&loop, &errors](std::string_view line) {
+        loop.post([&errors, text = "scorch: " + std::string(line) + '\n'] { errors.write(text); });
     };
     hooks.decimalMark = [mark = userDecimalMark()] {
         return mark;
@@ -106,14 +111,14 @@ ExitCode runProgram(const std::vector<std::string> &arguments) {
         // Nothing is at stake here, so Ctrl-C simply ends the program.
         MainLoop loop({});
         setEnvironment(drives->imageDrive, true);
-        fillHooks(loop);
+        fillHooks(loop, errors);
         exitCode = runDrivesCommand(*drives, output, errors);
         Scorcher::shutDownAll();
     } else {
         const auto &burn = std::get<BurnRequest>(commandLine);
         MainLoop loop({SIGINT, SIGTERM, SIGHUP});
         setEnvironment(burn.imageDrive, burn.verify);
-        fillHooks(loop);
+        fillHooks(loop, errors);
         exitCode = runBurnCommand(burn, loop, output, errors);
         Scorcher::shutDownAll();
     }

@@ -25,6 +25,10 @@ struct ScorchHooks {
     /// Called on any thread. The key itself where unset.
     std::function<std::string(std::string_view key)> localizedText;
 
+    /// Takes a line for the log, UTF-8, English, without a line break: what a person need not know
+    /// at once, but who looks into a failure wants to. Called on any thread. Dropped where unset.
+    std::function<void(std::string_view line)> log;
+
     /// The one set of hooks of this process.
     static ScorchHooks &shared() {
         static ScorchHooks hooks;
