@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/libburn/LibburnSession.h"
+
+#include <array>
+#include <cstdlib>
+#include <libburn/libburn.h>
+#include <span>
+#include <utility>
+
+namespace scorch {
+namespace {
+
+/// Frees a thing of libburn's when it is not needed any more.
+template <auto release>
+struct Releases {
+    template <class T>
+    void operator()(T *thing) const {
+        release(thing);
+    }
+};
+
+using DiscHandle = std::unique_ptr<burn::burn_disc, Releases<burn::burn_disc_free>>;
+using SessionHandle = std::unique_ptr<burn::burn_session, Releases<burn::burn_session_free>>;
+using TrackHandle = std::unique_ptr<burn::burn_track, Releases<burn::burn_track_free>>;
+using OptionsHandle = std::unique_ptr<burn::burn_write_opts, Releases<burn::burn_write_opts_free>>;
+using SourceHandle = std::unique_ptr<burn::burn_source, Releases<burn::burn_source_free>>;
+
+/// One track's part of what comes out of the ring. libburn reads it on the thread that writes.
+struct TrackSource {
+    std::shared_ptr<SectorRing> ring;
+    std::uint64_t left;
+    off_t size;
+};
+
+TrackSource &trackSource(burn::burn_source *source) {
+    return *static_cast<TrackSource *>(source->data);
+}
+
+int readSource(burn::burn_source *source, unsigned char *buffer, int size) {
+    TrackSource &track = trackSource(source);
+    const std::size_t wanted =
+        std::min<std::uint64_t>(static_cast<std::uint64_t>(size), track.left);
+    const std::size_t count = track.ring->take(std::as_writable_bytes(std::span(buffer, wanted)));
+    track.left -= count;
+    return static_cast<int>(count);
+}
+
+off_t sourceSize(burn::burn_source *source) {
+    return trackSource(source).size;
+}
+
+int setSourceSize(burn::burn_source * /*source*/, off_t /*size*/) {
+    return 1; // It is fixed.
+}
+
+void freeSource(burn::burn_source *source) {
+    delete &trackSource(source); // NOLINT(*-owning-memory): libburn owns it by this pointer.
+}
+
+int cancelSource(burn::burn_source * /*source*/) {
+    return 1;
+}
+
+/// libburn frees a source with free(), after free_data.
+SourceHandle makeSource(std::shared_ptr<SectorRing> ring, std::uint64_t bytes) {
+    SourceHandle source(
+        static_cast<burn::burn_source *>(std::calloc(1, sizeof(burn::burn_source)))); // NOLINT
+    if (source == nullptr) {
+        return source;
+    }
+    source->refcount = 1;
+    source->version = 1;
+    source->read_xt = readSource;
+    source->get_size = sourceSize;
+    source->set_size = setSourceSize;
+    source->free_data = freeSource;
+    source->cancel = cancelSource;
+    source->data = new TrackSource{std::move(ring), bytes, static_cast<off_t>(bytes)}; // NOLINT
+    return source;
+}
+
+constexpr int titlePack = 0x80;
+constexpr int performerPack = 0x81;
+constexpr int japanese = 0x69;
+constexpr int english = 0x09;
+
+/// A text with its terminator, which is as wide as a character.
+std::string terminated(const std::string &text, CdTextCode code) {
+    return text + std::string(code == CdTextCode::msJis ? 2 : 1, '\0');
+}
+
+int widthFlag(CdTextCode code) {
+    return code == CdTextCode::msJis ? 1 : 0;
+}
+
+} // namespace
+
+struct LibburnSession::Handles {
+    burn::burn_drive_info *drives = nullptr; ///< An array of one, given free with the drive.
+    DiscHandle disc;
+    SessionHandle session;
+    std::vector<TrackHandle> tracks;
+
+    burn::burn_drive *drive() const { return drives->drive; }
+
+    bool addTrack(const SessionPlan &plan, std::int64_t sectors,
+                  const std::shared_ptr<SectorRing> &ring);
+    bool attach(const CdText &text, int pack, std::string CdText::Texts::*member);
+};
+
+LibburnSession::LibburnSession(std::unique_ptr<Handles> handles) : handles_(std::move(handles)) {}
+
+std::unique_ptr<LibburnSession> LibburnSession::grab(const std::filesystem::path &node) {
+    auto handles = std::make_unique<Handles>();
+    std::string address = node.native();
+    if (burn::burn_drive_scan_and_grab(&handles->drives, address.data(), 0) <= 0) {
+        return nullptr;
+    }
+    return std::unique_ptr<LibburnSession>(new LibburnSession(std::move(handles)));
+}
+
+LibburnSession::~LibburnSession() {
+    if (isAbandoned_) {
+        static_cast<void>(handles_.release()); // libburn's thread goes on using all of it.
+        return;
+    }
+    handles_->tracks.clear();
+    handles_->session.reset();
+    handles_->disc.reset();
+    burn::burn_drive_release(handles_->drive(), 0);
+    burn::burn_drive_info_free(handles_->drives);
+}
+
+bool LibburnSession::Handles::addTrack(const SessionPlan &plan, std::int64_t sectors,
+                                       const std::shared_ptr<SectorRing> &ring) {
+    TrackHandle track(burn::burn_track_create());
+    const int mode = plan.kind == TrackKind::audio ? BURN_AUDIO : BURN_MODE1;
+    burn::burn_track_define_data(track.get(), 0, 0, 0, mode);
+    const SourceHandle source =
+        makeSource(ring, static_cast<std::uint64_t>(sectors) * plan.bytesPerSector());
+    if (source == nullptr ||
+        burn::burn_track_set_source(track.get(), source.get()) != burn::BURN_SOURCE_OK ||
+        burn::burn_session_add_track(session.get(), track.get(), BURN_POS_END) == 0) {
+        return false;
+    }
+    tracks.push_back(std::move(track));
+    return true;
+}
+
+bool LibburnSession::Handles::attach(const CdText &text, int pack,
+                                     std::string CdText::Texts::*member) {
+    const auto bytes = [](std::string &payload) {
+        return reinterpret_cast<unsigned char *>(payload.data()); // NOLINT(*-reinterpret-cast)
+    };
+    const int flag = widthFlag(text.code);
+    std::string payload = terminated(text.disc.*member, text.code);
+    bool isAttached = burn::burn_session_set_cdtext(session.get(), 0, pack, nullptr, bytes(payload),
+                                                    static_cast<int>(payload.size()), flag) > 0;
+    for (std::size_t index = 0; index < tracks.size(); ++index) {
+        payload = terminated(text.tracks[index].*member, text.code);
+        isAttached = isAttached && burn::burn_track_set_cdtext(
+                                       tracks[index].get(), 0, pack, nullptr, bytes(payload),
+                                       static_cast<int>(payload.size()), flag) > 0;
+    }
+    return isAttached;
+}
+
+bool LibburnSession::attachText(const CdText &text) {
+    const bool isJapanese = text.code == CdTextCode::msJis;
+    std::array<int, 8> codes{isJapanese ? 0x80 : 0x00};
+    std::array<int, 8> copyrights{};
+    std::array<int, 8> languages{isJapanese ? japanese : english};
+    if (burn::burn_session_set_cdtext_par(handles_->session.get(), codes.data(), copyrights.data(),
+                                          languages.data(), 0) <= 0 ||
+        (text.hasTitles() && !handles_->attach(text, titlePack, &CdText::Texts::title)) ||
+        (text.hasPerformers() &&
+         !handles_->attach(text, performerPack, &CdText::Texts::performer))) {
+        return false;
+    }
+    const int packs = burn::burn_cdtext_from_session(handles_->session.get(), nullptr, nullptr, 1);
+    return packs > 0 && static_cast<std::size_t>(packs) <= mostPacks;
+}
+
+bool LibburnSession::write(const SessionPlan &plan, const std::optional<CdText> &text, int speed,
+                           const std::shared_ptr<SectorRing> &ring) {
+    handles_->tracks.clear();
+    handles_->disc.reset(burn::burn_disc_create());
+    handles_->session.reset(burn::burn_session_create());
+    burn::burn_disc_add_session(handles_->disc.get(), handles_->session.get(), BURN_POS_END);
+    for (const std::int64_t sectors : plan.sectors) {
+        if (!handles_->addTrack(plan, sectors, ring)) {
+            return false;
+        }
+    }
+    if (text && !attachText(*text)) {
+        return false;
+    }
+    const OptionsHandle options(burn::burn_write_opts_new(handles_->drive()));
+    burn::burn_write_opts_set_multi(options.get(), 0); // The disc is closed with the session.
+    burn::burn_write_opts_set_underrun_proof(options.get(), 1); // 0 where the drive has none.
+    if (burn::burn_write_opts_set_write_type(options.get(), burn::BURN_WRITE_SAO,
+                                             burn::BURN_BLOCK_SAO) == 0) {
+        return false;
+    }
+    std::array<char, BURN_REASONS_LEN> reasons{};
+    if (burn::burn_precheck_write(options.get(), handles_->disc.get(), reasons.data(), 0) <= 0) {
+        return false;
+    }
+    burn::burn_drive_set_speed(handles_->drive(), 0, speed);
+    burn::burn_disc_write(options.get(), handles_->disc.get());
+    return true;
+}
+
+bool LibburnSession::isIdle() const {
+    return burn::burn_drive_get_status(handles_->drive(), nullptr) == burn::BURN_DRIVE_IDLE;
+}
+
+void LibburnSession::cancel() {
+    burn::burn_drive_cancel(handles_->drive());
+}
+
+bool LibburnSession::wroteWell() const {
+    return burn::burn_drive_wrote_well(handles_->drive()) != 0;
+}
+
+std::vector<TrackCounters> LibburnSession::counters() const {
+    std::vector<TrackCounters> counters;
+    for (const TrackHandle &track : handles_->tracks) {
+        off_t read = 0;
+        off_t written = 0;
+        burn::burn_track_get_counters(track.get(), &read, &written);
+        counters.push_back({static_cast<std::uint64_t>(read), static_cast<std::uint64_t>(written)});
+    }
+    return counters;
+}
+
+} // namespace scorch

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/libburn/MessageInbox.h"
+
+#include <cstddef>
+
+namespace scorch {
+namespace {
+
+constexpr std::size_t mostErrors = 50;
+
+} // namespace
+
+void MessageInbox::add(const LibburnMessage &message, bool isShared) {
+    if (!message.isError) {
+        return;
+    }
+    const std::lock_guard lock(mutex_);
+    if (errors_.size() < mostErrors) {
+        errors_.push_back(message);
+    }
+    hasFailure_ = hasFailure_ || (!isShared && isWriteFailure(message));
+}
+
+bool MessageInbox::hasFailure() const {
+    const std::lock_guard lock(mutex_);
+    return hasFailure_;
+}
+
+std::vector<LibburnMessage> MessageInbox::errors() const {
+    const std::lock_guard lock(mutex_);
+    return errors_;
+}
+
+void MessageInbox::clear() {
+    const std::lock_guard lock(mutex_);
+    errors_.clear();
+    hasFailure_ = false;
+}
+
+} // namespace scorch

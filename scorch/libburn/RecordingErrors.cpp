@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/libburn/RecordingErrors.h"
+
+#include "engine/ScorchString.h"
+#include "scorch/support/Text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace scorch {
+namespace {
+
+using Code = ScorchErrorCode;
+
+std::string amountText(TrackKind kind, std::int64_t sectors) {
+    return kind == TrackKind::audio
+               ? stringWithDurationFramesEnabled(sectors, false)
+               : stringWithFilesize(sectors * static_cast<std::int64_t>(dataSectorBytes));
+}
+
+ScorchError doesNotFitError(const SessionPlan &plan, std::int64_t free) {
+    return {Code::doesNotFit,
+            localized("The list does not fit on the disc: it needs %@, and the disc has room for "
+                      "%@. Remove something from the list, or insert a larger disc.",
+                      {amountText(plan.kind, plan.total()), amountText(plan.kind, free)}),
+            std::to_string(plan.total()) + " sectors, free " + std::to_string(free)};
+}
+
+/// The first that `is`, or none.
+template <class Predicate>
+const LibburnMessage *firstOf(const std::vector<LibburnMessage> &messages, Predicate is) {
+    const auto found = std::find_if(messages.begin(), messages.end(), is);
+    return found != messages.end() ? &*found : nullptr;
+}
+
+MmcError mmcError(MmcError::Kind kind, const LibburnMessage &message) {
+    return {.kind = kind, .sense = {}, .systemError = message.systemError, .command = message.text};
+}
+
+} // namespace
+
+ScorchError wrongLengthError(const std::string &name) {
+    return {Code::internal,
+            localized("“%@” turned out to have another length than expected. Remove it from the "
+                      "list, add it again and start over.",
+                      {name})};
+}
+
+std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPlan &plan,
+                                     const std::string &driveName) {
+    using Kind = MediumState::Kind;
+    if (plan.sectors.size() > maximumTracks) {
+        return ScorchError(
+            Code::tooManyTracks,
+            localized("An audio CD takes %@ songs at most, and the list has %@. Remove some of "
+                      "them and burn them on another disc.",
+                      {std::to_string(maximumTracks), std::to_string(plan.sectors.size())}));
+    }
+    if (medium.kind == Kind::none) {
+        return ScorchError(
+            Code::noDisc,
+            localized("There is no disc in the drive “%@”. Insert a blank CD.", {driveName}));
+    }
+    if (!medium.isCd()) {
+        return ScorchError(
+            Code::discNotSuitable,
+            localized("The disc in the drive “%@” is not a CD. Insert a blank CD.", {driveName}));
+    }
+    if (medium.kind == Kind::cdRom || medium.contents != MediumState::Contents::blank) {
+        return ScorchError(Code::discNotBlank,
+                           localized("The disc in the drive “%@” is not blank. Eject it and "
+                                     "insert a blank CD.",
+                                     {driveName}));
+    }
+    if (plan.total() > medium.freeSectors) {
+        return doesNotFitError(plan, medium.freeSectors);
+    }
+    return std::nullopt;
+}
+
+ScorchError writingError(const std::vector<LibburnMessage> &messages, DriveErrorContext context) {
+    if (const auto *lost = firstOf(messages, isLostConnection)) {
+        return driveError(mmcError(MmcError::Kind::gone, *lost), context);
+    }
+    const auto *failed = firstOf(messages, [](const LibburnMessage &message) {
+        return isWriteFailure(message) && senseIn(message);
+    });
+    const auto *silent = firstOf(messages, isTimeOut);
+    if (silent != nullptr && (failed == nullptr || silent < failed)) {
+        return driveError(mmcError(MmcError::Kind::timedOut, *silent), context);
+    }
+    if (failed != nullptr) {
+        context.sector = sectorIn(*failed);
+        return senseError(*senseIn(*failed), context, failed->text);
+    }
+    const auto *first = firstOf(messages, isWriteFailure);
+    return {Code::writeFailed,
+            localized("The disc in the drive “%@” could not be written. It cannot be used any "
+                      "more: try again with a new one, best of another make.",
+                      {context.driveName}),
+            first != nullptr ? first->text : "no reason given"};
+}
+
+ScorchError wrongDiscError(const std::string &driveName, const std::string &detail) {
+    return {Code::writeFailed,
+            localized("The disc in the drive “%@” was written, but it is not as it should be. Do "
+                      "not rely on it: burn the list again on another one.",
+                      {driveName}),
+            detail};
+}
+
+ScorchError readBackError(TrackKind kind, std::size_t track, const std::string &name,
+                          const std::string &detail) {
+    if (kind == TrackKind::audio) {
+        return {Code::verifyFailed,
+                localized("Track %@, “%@”, cannot be read back from the disc. Do not rely on this "
+                          "disc: burn the list again on another one.",
+                          {std::to_string(track + 1), name}),
+                detail};
+    }
+    if (name.empty()) {
+        return {Code::verifyFailed,
+                localized("The table of contents of the disc cannot be read back. Do not rely on "
+                          "this disc: burn the list again on another one."),
+                detail};
+    }
+    return {Code::verifyFailed,
+            localized("“%@” cannot be read back from the disc. Do not rely on this disc: burn the "
+                      "list again on another one.",
+                      {name}),
+            detail};
+}
+
+} // namespace scorch
