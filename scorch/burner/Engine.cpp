@@ -7,6 +7,7 @@
 #include "scorch/burner/DataContent.h"
 #include "scorch/burner/DataKind.h"
 #include "scorch/drive/ImageDriveSource.h"
+#include "scorch/libburn/LibburnRecording.h"
 #include "scorch/mmc/OpticalDriveSource.h"
 #include "scorch/mmc/PollingWatcher.h"
 #include "scorch/udev/UdevWatcher.h"
@@ -50,10 +51,7 @@ std::unique_ptr<DeviceWatcher> watchDevices() {
 
 OpticalDriveServices driveServices() {
     OpticalDriveServices services;
-    services.record = [](const RecordingTarget &target, const DiscContent &,
-                         const std::stop_token &) -> Outcome<std::unique_ptr<DiscRecording>> {
-        return Interruption(internalError("no recording on " + target.node.native()));
-    };
+    services.record = libburnRecordingFactory();
     return services;
 }
 

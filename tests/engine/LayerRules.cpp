@@ -40,8 +40,8 @@ const std::vector<Library> &libraries() {
     static const std::vector<Library> all = {
         {std::regex("lib(av|sw)[a-z]+/.*"), "scorch/audio"},
         {std::regex("libisofs/.*"), "scorch/iso"},
-        {std::regex("libburn/.*"), "scorch/drive"},
-        {std::regex("libudev\\.h"), "scorch/drive"},
+        {std::regex("libburn/.*"), "scorch/libburn"},
+        {std::regex("libudev\\.h"), "scorch/udev"},
         {std::regex("(taglib/.*|fileref\\.h|tag\\.h|tpropertymap\\.h)"), "crate"},
     };
     return all;
