@@ -52,7 +52,8 @@ void BurnCommand::start() {
     if (state_ == State::ended) {
         return;
     }
-    auto choice = chooseDrive(ScorcherDevice::devices(), request_.drive,
+    const std::vector<std::string> drives = ScorcherDevice::devices();
+    auto choice = chooseDrive(drives, driveNamed(drives, request_.drive),
                               request_.imageDrive ? DriveKind::imageDrive : DriveKind::any);
     if (const auto *problem = std::get_if<DriveProblem>(&choice)) {
         reporter_.failed({ScorchErrorCode::noDrive, problem->text});

@@ -6,7 +6,10 @@
 #include "engine/ScorcherDevice.h"
 
 #include <algorithm>
+#include <cmath>
+#include <filesystem>
 #include <iterator>
+#include <system_error>
 
 namespace cli {
 namespace {
@@ -25,6 +28,16 @@ std::vector<std::string> imageDrivesOf(const std::vector<std::string> &drives) {
     std::copy_if(drives.begin(), drives.end(), std::back_inserter(images),
                  [](const std::string &name) { return name.starts_with("Disc image ("); });
     return images;
+}
+
+/// Speeds as people know them, multiples of 1x, fastest first.
+std::string speedsText(const std::vector<int> &speeds) {
+    constexpr double singleSpeed = 176.4;
+    std::string text;
+    for (const int speed : speeds) {
+        text += ' ' + std::to_string(std::lround(speed / singleSpeed)) + 'x';
+    }
+    return text;
 }
 
 } // namespace
@@ -66,7 +79,27 @@ std::string discWord(const ScorcherDevice &device) {
     return device.isDiscBlank() ? "blank" : "written";
 }
 
+std::string driveNamed(const std::vector<std::string> &drives, const std::string &wanted) {
+    if (wanted.find('/') == std::string::npos ||
+        std::find(drives.begin(), drives.end(), wanted) != drives.end()) {
+        return wanted;
+    }
+    std::error_code error;
+    const std::filesystem::path node = std::filesystem::canonical(wanted, error);
+    for (const std::string &drive : drives) {
+        const std::filesystem::path known =
+            ScorcherDevice::initWithDeviceName(drive)->description().node;
+        if (!known.empty() && (known == wanted || (!error && known == node))) {
+            return drive;
+        }
+    }
+    return wanted;
+}
+
 std::optional<std::string> discProblem(const ScorcherDevice &device) {
+    if (const std::string problem = device.description().problem; !problem.empty()) {
+        return problem;
+    }
     const std::string drive = '"' + displayText(device.deviceName()) + '"';
     const std::string word = discWord(device);
     if (word == "unusable") {
@@ -85,24 +118,53 @@ std::optional<std::string> discProblem(const ScorcherDevice &device) {
 }
 
 std::string discText(const ScorcherDevice &device) {
+    const ScorcherDeviceDescription description = device.description();
     const std::string word = discWord(device);
-    if (word == "unusable") {
-        return "cannot write CDs";
-    }
     if (word == "checking") {
         return "examining the disc";
+    }
+    if (!description.problem.empty()) {
+        return displayText(description.problem);
+    }
+    if (word == "unusable") {
+        return "cannot write CDs";
     }
     if (word == "none") {
         return "no disc";
     }
+    const std::string kind = description.medium.empty() ? "" : " (" + description.medium + ")";
     if (word == "other") {
-        return "a disc that is not a CD";
+        return "a disc that is not a CD" + kind;
     }
     if (word == "written") {
-        return "a CD that is not blank";
+        return "a CD that is not blank" + kind;
     }
-    return "blank CD, " + stringWithDurationFramesEnabled(device.freeTimeOfDisc(), false) + " or " +
+    return "blank " + (description.medium.empty() ? "CD" : description.medium) + ", " +
+           stringWithDurationFramesEnabled(device.freeTimeOfDisc(), false) + " or " +
            stringWithFilesize(device.freeSizeOfDisc()) + " free";
+}
+
+std::string driveText(const ScorcherDevice &device) {
+    const ScorcherDeviceDescription description = device.description();
+    std::vector<std::string> parts;
+    if (!description.writeSpeeds.empty()) {
+        parts.push_back("written at" + speedsText(description.writeSpeeds));
+    }
+    const std::string maker = description.vendor.empty() ? "" : description.vendor + ' ';
+    if (!description.model.empty()) {
+        parts.push_back(displayText(maker + description.model));
+    }
+    if (!description.revision.empty()) {
+        parts.push_back("firmware " + displayText(description.revision));
+    }
+    if (!parts.empty()) { // A folder stands in its drive's name.
+        parts.push_back(displayText(description.node.native()));
+    }
+    std::string text;
+    for (const std::string &part : parts) {
+        text += (text.empty() ? "" : ", ") + part;
+    }
+    return text;
 }
 
 } // namespace cli

@@ -26,14 +26,23 @@ std::variant<DriveProblem, std::string> chooseDrive(const std::vector<std::strin
                                                     const std::string &wanted,
                                                     DriveKind kind = DriveKind::any);
 
+/// The name of the drive that somebody named: by that name, or by its device node or folder, links
+/// to it included. What is neither stays as it is.
+std::string driveNamed(const std::vector<std::string> &drives, const std::string &wanted);
+
 /// Why the disc in the drive cannot be burned, for a person; nothing if it can. Not to be asked
 /// while the drive examines the disc.
 std::optional<std::string> discProblem(const ScorcherDevice &device);
 
-/// What is in the drive, in words: "blank CD, 79:57 or 737.0 MB free".
+/// What is in the drive, in words: "blank CD-R, 79:57 or 737.0 MB free"; or what the problem with
+/// the drive is.
 std::string discText(const ScorcherDevice &device);
 
 /// The same as one word: unusable, checking, none, other, written or blank.
 std::string discWord(const ScorcherDevice &device);
+
+/// What the drive is, in words: "written at 52x 32x, EXAMPLE CD-RW, firmware 1.00, /dev/sr0". Empty
+/// for a drive that is no device.
+std::string driveText(const ScorcherDevice &device);
 
 } // namespace cli

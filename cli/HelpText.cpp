@@ -12,8 +12,10 @@ USAGE
   scorch --help | --version
 
 COMMANDS
-  drives      Print a line for each drive: its name, the disc in it, and the
-              playing time and the storage that are free on a blank disc.
+  drives      Print a line for each drive: its name, the disc in it, the playing
+              time and the storage that are free on a blank disc, the speeds at
+              which that can be written, and what the drive is. Waits for up to
+              half a minute until the discs have been examined.
 
   burn        Check the files, burn them, and read the disc back to verify it.
 
@@ -30,9 +32,9 @@ OPTIONS
   --name NAME
               The name of the disc. "Untitled" if left out.
 
-  --drive NAME
-              The drive to burn with, by the name that 'scorch drives' prints.
-              Needed only if there is more than one.
+  --drive NAME|DEVICE
+              The drive to burn with, by the name that 'scorch drives' prints or
+              by its device (/dev/sr0). Needed only if there is more than one.
 
   --image-drive FOLDER[,minutes=N][,create]
               Burn to a disc image in FOLDER instead of a disc: NAME.cue and
@@ -72,6 +74,9 @@ ENVIRONMENT
               separated by ":". A ":" or "," in a path is written "\:" or "\,".
   SCORCH_VERIFY
               0 means --no-verify.
+  SCORCH_UDEV
+              0 means to look for drives once a second by their device files,
+              also where udev tells of them.
 
 EXAMPLES
   scorch burn --audio --name "Road trip" *.flac

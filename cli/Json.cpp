@@ -74,6 +74,14 @@ JsonObject &JsonObject::add(std::string_view key, bool value) {
     return addRaw(key, value ? "true" : "false");
 }
 
+JsonObject &JsonObject::add(std::string_view key, const std::vector<int> &numbers) {
+    std::string list = "[";
+    for (const int number : numbers) {
+        list += (list.size() > 1 ? "," : "") + std::to_string(number);
+    }
+    return addRaw(key, list + ']');
+}
+
 JsonObject &JsonObject::addFraction(std::string_view key, double value) {
     // std::to_chars knows no locale, unlike printf.
     std::array<char, 400> digits{};

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace cli {
 
@@ -21,6 +22,7 @@ public:
     JsonObject &add(std::string_view key, std::int64_t number);
     JsonObject &add(std::string_view key, std::uint64_t number);
     JsonObject &add(std::string_view key, bool value);
+    JsonObject &add(std::string_view key, const std::vector<int> &numbers);
     /// Rounded to four places; what is not finite is 0.
     JsonObject &addFraction(std::string_view key, double value);
     /// "path", and "pathPercentEncoded" beside it if the bytes are not UTF-8.

@@ -4,9 +4,14 @@
 #include "engine/ScorcherDevice.h"
 #include "tests/cli/CapturedOutput.h"
 #include "tests/support/FakeEngine.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -55,6 +60,24 @@ TEST_F(Drives, FreeTimeAndSizeOfABlankDiscAreShown) {
     EXPECT_EQ(text(), "no disc");
 }
 
+TEST_F(Drives, KindOfTheDiscIsNamedWhereItIsKnown) {
+    drive.description.medium = "CD-R";
+    EXPECT_EQ(text(), "blank CD-R, 79:57 or 737.0 MB free");
+    drive.isBlank = false;
+    EXPECT_EQ(text(), "a CD that is not blank (CD-R)");
+    drive.isCD = false;
+    drive.description.medium = "DVD+R";
+    EXPECT_EQ(text(), "a disc that is not a CD (DVD+R)");
+}
+
+TEST_F(Drives, AProblemOfTheDriveIsToldInsteadOfItsDisc) {
+    drive.hasDisc = false;
+    drive.description.problem = "You are not allowed to use it.";
+    EXPECT_EQ(text(), "You are not allowed to use it.");
+    EXPECT_EQ(discProblem(*ScorcherDevice::initWithDeviceName("A")),
+              "You are not allowed to use it.");
+}
+
 TEST_F(Drives, ProblemSaysWhatToDo) {
     engine.drives = {drive};
     const auto handle = ScorcherDevice::initWithDeviceName("A");
@@ -83,6 +106,22 @@ TEST(DriveChoice, FolderWinsOverTheRecordersThatAreThere) {
     EXPECT_EQ(std::get<std::string>(choice), "Disc image (x)");
 }
 
+TEST_F(Drives, ADeviceNodeNamesItsDrive) {
+    const TemporaryFolder folder;
+    const std::filesystem::path node = folder.path() / "sr1";
+    std::ofstream(node).put(' ');
+    std::filesystem::create_symlink("sr1", folder.path() / "cdrom");
+    engine.drives = {FakeDrive{"A"}, FakeDrive{"B"}};
+    engine.drive("B").description.node = node;
+    const std::vector<std::string> names = {"A", "B"};
+    EXPECT_EQ(driveNamed(names, node.native()), "B");
+    EXPECT_EQ(driveNamed(names, folder.path() / "cdrom"), "B");
+    EXPECT_EQ(driveNamed(names, "/no/such/node"), "/no/such/node");
+    EXPECT_EQ(driveNamed(names, "A"), "A");
+    EXPECT_EQ(driveNamed(names, ""), "");
+    EXPECT_EQ(engine.livingHandles, 0);
+}
+
 TEST(DriveChoice, UnknownNameAndNoDriveAreFailures) {
     const auto unknown = chooseDrive({"A"}, "B");
     EXPECT_EQ(std::get<DriveProblem>(unknown).exitCode, ExitCode::failed);
@@ -99,6 +138,36 @@ TEST_F(Drives, CommandPrintsALineADrive) {
     EXPECT_EQ(runDrivesCommand({}, out.output(), err.output()), ExitCode::done);
     EXPECT_EQ(out.text(), "A: no disc\nB\\x1b: blank CD, 79:57 or 737.0 MB free\n");
     EXPECT_EQ(err.text(), "");
+}
+
+TEST_F(Drives, CommandTellsWhatADriveIs) {
+    drive.description = {.vendor = "EXAMPLE",
+                         .model = "CD-RW 52X",
+                         .revision = "1.00",
+                         .node = "/dev/sr0",
+                         .medium = "CD-R",
+                         .writeSpeeds = {9173, 5645, 1411},
+                         .problem = {}};
+    engine.drives = {drive};
+    CapturedOutput out;
+    CapturedOutput json;
+    CapturedOutput err;
+    runDrivesCommand({}, out.output(), err.output());
+    runDrivesCommand({std::nullopt, true}, json.output(), err.output());
+    EXPECT_EQ(out.text(), "A: blank CD-R, 79:57 or 737.0 MB free; written at 52x 32x 8x, "
+                          "EXAMPLE CD-RW 52X, firmware 1.00, /dev/sr0\n");
+    EXPECT_THAT(json.text(), HasSubstr(R"("medium":"CD-R","vendor":"EXAMPLE","model":"CD-RW 52X",)"
+                                       R"("revision":"1.00","writeSpeeds":[9173,5645,1411],)"
+                                       R"("path":"/dev/sr0"})"));
+}
+
+TEST_F(Drives, CommandDoesNotWaitForeverForADisc) {
+    drive.isChecking = true;
+    engine.drives = {drive};
+    CapturedOutput out;
+    CapturedOutput err;
+    runDrivesCommand({}, out.output(), err.output(), std::chrono::milliseconds(1));
+    EXPECT_EQ(out.text(), "A: examining the disc\n");
 }
 
 TEST_F(Drives, CommandPrintsJson) {

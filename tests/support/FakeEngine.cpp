@@ -41,6 +41,9 @@ public:
     std::int64_t freeSizeOfDisc() const override {
         return ask("freeSizeOfDisc", &FakeDrive::freeSize);
     }
+    ScorcherDeviceDescription description() const override {
+        return ask("description", &FakeDrive::description);
+    }
     void eject() override { FakeEngine::current().ejected.push_back(name_); }
 
 private:

@@ -88,6 +88,7 @@ struct FakeDrive {
     bool isCD = true;
     std::int64_t freeTime = 359849;                 // CD frames of an 80 minute disc.
     std::int64_t freeSize = 359849 * INT64_C(2048); // Bytes of it.
+    ScorcherDeviceDescription description = {};
 };
 
 /// The engine for tests of its clients: defines the contract's static operations. One at a time;
