@@ -2,10 +2,10 @@
 // What a drive's thread does.
 #include "scorch/mmc/OpticalDrive.h"
 
+#include "engine/ScorchHooks.h"
 #include "scorch/mmc/DriveErrors.h"
 
 #include <chrono>
-#include <iostream>
 #include <utility>
 
 namespace scorch {
@@ -148,8 +148,9 @@ void OpticalDrive::ejectDisc() {
     } else if (const Result<void, MmcError> ejected = device->eject(); !ejected) {
         failure = driveError(ejected.error(), context);
     }
-    if (failure) { // Nobody waits for an answer: whoever asks for the drive's problem reads it.
-        std::cerr << failure->localizedDescription() + " (" + failure->detail() + ")\n";
+    const auto &log = ScorchHooks::shared().log;
+    if (failure && log) { // Nobody waits for an answer.
+        log("eject: " + failure->localizedDescription() + " (" + failure->detail() + ")");
     }
     {
         const std::lock_guard lock(mutex_);
