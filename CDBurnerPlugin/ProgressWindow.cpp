@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <xcb/xcb.h>
 
 ProgressWindow::ProgressWindow(QWidget *parent)
     : QDialog(parent), ui_(std::make_unique<Ui::ProgressWindow>()) {
@@ -79,6 +80,16 @@ void ProgressWindow::reject() {
     if (ui_->btnCancel->isEnabled()) {
         clickCancel();
     }
+}
+
+bool ProgressWindow::nativeEvent(const QByteArray &eventType, void *message, qintptr *result) {
+    constexpr int sentByClient = 0x80; // A bit that the X server sets in the event's type.
+    if (isHidden() && eventType == "xcb_generic_event_t") {
+        const auto *const event = static_cast<const xcb_generic_event_t *>(message);
+        return static_cast<std::uint8_t>(event->response_type & ~sentByClient) ==
+               XCB_CLIENT_MESSAGE;
+    }
+    return QDialog::nativeEvent(eventType, message, result);
 }
 
 void ProgressWindow::keyPressEvent(QKeyEvent *event) {

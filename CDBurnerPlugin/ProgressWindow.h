@@ -88,6 +88,11 @@ public:
     /// What Escape does to a dialog: a click on the button.
     void reject() override;
 
+    /// Drops what the window system still says to a sheet that is hidden already. A short check
+    /// hides it before it was ever active; the answer to Qt's wish to activate it comes after that,
+    /// and Qt would make the hidden sheet the active window, which then swallows every key.
+    bool nativeEvent(const QByteArray &eventType, void *message, qintptr *result) override;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:

@@ -15,6 +15,7 @@
 #include <memory>
 #include <thread>
 #include <vector>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -277,6 +278,19 @@ TEST_F(ProgressWindowTest, ItsSizeDoesNotDependOnItsTexts) {
     QCoreApplication::processEvents();
     EXPECT_EQ(sheet_.size(), before);
     EXPECT_LT(before.width(), 700);
+}
+
+TEST_F(ProgressWindowTest, HiddenSheetHearsNothingMoreOfTheWindowSystem) {
+    xcb_client_message_event_t wish{};
+    wish.response_type = XCB_CLIENT_MESSAGE | 0x80; // As one that another program has sent.
+    qintptr result = 0;
+    EXPECT_TRUE(sheet_.nativeEvent("xcb_generic_event_t", &wish, &result));
+    runSheet(ProgressWindow::addingFilesType, cancel_);
+    EXPECT_FALSE(sheet_.nativeEvent("xcb_generic_event_t", &wish, &result));
+    sheet_.closeSheet();
+    EXPECT_TRUE(sheet_.nativeEvent("xcb_generic_event_t", &wish, &result));
+    wish.response_type = XCB_UNMAP_NOTIFY;
+    EXPECT_FALSE(sheet_.nativeEvent("xcb_generic_event_t", &wish, &result));
 }
 
 } // namespace
