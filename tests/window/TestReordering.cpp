@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// Rows dragged inside the list.
+#include "tests/window/WindowTest.h"
+
+#include <algorithm>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::ElementsAre;
+
+class Reordering : public WindowTest {
+protected:
+    /// In the row's lower half: what is dropped here goes below it.
+    QPoint below(int row) {
+        const QRect rect = rectOfRow(row);
+        return {pointInRow(row).x(), rect.bottom() - 4};
+    }
+    QPoint above(int row) {
+        const QRect rect = rectOfRow(row);
+        return {pointInRow(row).x(), rect.top() + 4};
+    }
+    /// On the last pixels of a row, so that the picture under the pointer hangs above it.
+    QPoint grip(int row) { return {pointInRow(row).x(), rectOfRow(row).bottom() - 1}; }
+
+    void drag(int row, const QPoint &to) {
+        dragInHost(grip(row), to, Answer::taken);
+        dropInHost();
+    }
+    void selectFromTo(int first, int last) {
+        Hand::clickAt(pointInRow(first));
+        Hand::keyDown("shift");
+        Hand::clickAt(pointInRow(last));
+        Hand::keyUp("shift");
+    }
+    /// The pixels along the border between a row and the one below it.
+    std::vector<QColor> borderBelow(int row) {
+        const QRect rect = rectOfRow(row);
+        return desktop_.pixels({rect.x() + 20, rect.bottom() + 1, rect.width() - 40, 1});
+    }
+};
+
+TEST_F(Reordering, RowDroppedBelowAnotherStandsThereAndIsSelected) {
+    startWithSongs(4);
+    drag(0, below(2));
+    waitForList({"song 02", "song 03", "song 01", "song 04"});
+    waitForSelection({2});
+}
+
+TEST_F(Reordering, RowDroppedAboveAnotherStandsThere) {
+    startWithSongs(4);
+    drag(3, above(1));
+    waitForList({"song 01", "song 04", "song 02", "song 03"});
+    waitForSelection({1});
+}
+
+TEST_F(Reordering, SelectedRowsMoveTogether) {
+    startWithSongs(5);
+    selectFromTo(1, 2);
+    waitForSelection({1, 2});
+    drag(1, below(4));
+    waitForList({"song 01", "song 04", "song 05", "song 02", "song 03"});
+    waitForSelection({3, 4});
+}
+
+TEST_F(Reordering, RowDroppedInTheEmptyPartGoesToTheEnd) {
+    startWithSongs(3);
+    const QRect list = rectOf("_filesTableView");
+    drag(0, {list.center().x(), list.bottom() - 10});
+    waitForList({"song 02", "song 03", "song 01"});
+    waitForSelection({2});
+}
+
+TEST_F(Reordering, RowDroppedOnItselfStaysAndIsSelected) {
+    startWithSongs(3);
+    drag(1, below(1));
+    EXPECT_THAT(list(), ElementsAre("song 01", "song 02", "song 03"));
+    waitForSelection({1});
+}
+
+TEST_F(Reordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
+    startWithSongs(4);
+    const auto before = borderBelow(2);
+    dragInHost(grip(0), below(2), Answer::taken);
+    waitUntil("a line of one colour shows on the border", [this, &before] {
+        const auto during = borderBelow(2);
+        const auto lineColour = during.front();
+        return lineColour != before.front() &&
+               std::count(during.begin(), during.end(), lineColour) ==
+                   static_cast<std::ptrdiff_t>(during.size());
+    });
+    dragOnTo(below(1), Answer::taken);
+    waitUntil("the line has moved on", [this, &before] { return borderBelow(2) == before; });
+    dropInHost();
+    waitForList({"song 02", "song 01", "song 03", "song 04"});
+    waitUntil("no line is left", [this, &before] { return borderBelow(2) == before; });
+}
+
+TEST_F(Reordering, EscapeDuringTheDragLeavesTheListAlone) {
+    startWithSongs(3);
+    dragInHost(grip(0), below(2), Answer::taken);
+    Hand::keys({"Escape"});
+    waitUntil("the drag is over", [this] { return state()["cursor"].toInt() == -1; });
+    Hand::release();
+    EXPECT_THAT(list(), ElementsAre("song 01", "song 02", "song 03"));
+}
+
+} // namespace
