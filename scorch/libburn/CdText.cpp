@@ -134,10 +134,12 @@ CdTextPlan planCdText(const DiscContent &content) {
     const std::vector<std::string> sources = sourcesOf(content);
     Entries entries = encode(sources, CdTextCode::latin1);
     CdTextCode code = CdTextCode::latin1;
-    if (Entries japanese = encode(sources, CdTextCode::msJis);
-        countSaid(japanese) > countSaid(entries)) {
-        entries = std::move(japanese);
-        code = CdTextCode::msJis;
+    if (std::any_of(sources.begin(), sources.end(), isJapanese)) {
+        Entries japanese = encode(sources, CdTextCode::msJis);
+        if (countSaid(japanese) > countSaid(entries)) {
+            entries = std::move(japanese);
+            code = CdTextCode::msJis;
+        }
     }
     CdTextPlan plan;
     noteOmissions(entries, code, plan.notes);

@@ -35,8 +35,9 @@ struct CdTextPlan {
     std::vector<std::string> notes; ///< For the log: what was left out or cut, and why.
 };
 
-/// Chooses the code that can say most of the texts (Latin-1 if equal), leaves out each text that it
-/// cannot say, and cuts the longest, at whole characters, so far that all fits into one block.
+/// Chooses Latin-1, or MS-JIS where texts are Japanese and it can say more of them. Leaves out each
+/// text that the code cannot say, and cuts the longest, at whole characters, so far that all fits
+/// into one block.
 CdTextPlan planCdText(const DiscContent &content);
 
 /// The packs that these texts take, with those that tell their sizes.

@@ -240,4 +240,13 @@ std::optional<std::vector<std::string>> cdTextCharacters(std::string_view text, 
     return code == CdTextCode::latin1 ? latin1(*points) : msJis(*points);
 }
 
+bool isJapanese(std::string_view text) {
+    const CodePoints points = codePoints(text).value_or(CodePoints());
+    return std::any_of(points.begin(), points.end(), [](char32_t point) {
+        const bool isKana =
+            (point >= 0x3041 && point <= 0x30FF) || (point >= 0xFF66 && point <= 0xFF9F);
+        return isKana || (point >= 0x4E00 && point <= 0x9FFF);
+    });
+}
+
 } // namespace scorch

@@ -17,4 +17,7 @@ namespace scorch {
 /// said, or where the text is no UTF-8.
 std::optional<std::vector<std::string>> cdTextCharacters(std::string_view text, CdTextCode code);
 
+/// Whether a text has kana or kanji.
+bool isJapanese(std::string_view text);
+
 } // namespace scorch

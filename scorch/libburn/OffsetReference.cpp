@@ -12,7 +12,9 @@ namespace scorch {
 namespace {
 
 constexpr std::size_t mostPieces = 4;
-constexpr std::size_t pieceSectors = 8;
+/// More than twice what the largest offset reaches over: half of a piece at the very beginning of a
+/// disc is left whatever the offset.
+constexpr std::size_t pieceSectors = 24;
 constexpr std::size_t sampleBytes = 4;
 /// One wrong sample in so many is taken for damage rather than for the wrong place.
 constexpr std::int64_t damagedShare = 20;
