@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QValidator>
@@ -75,6 +76,11 @@ bool VolumeNameEdit::vet(const QString &proposed, int cursor) {
 }
 
 bool VolumeNameEdit::event(QEvent *event) {
+    if (event->type() == QEvent::WindowActivate) {
+        // A line edit would give up its selection here if the focus has gone elsewhere again, as
+        // it does where the sheet comes up with the window: the name is to be typed over still.
+        return QWidget::event(event);
+    }
     const bool isHandled = QLineEdit::event(event);
     applyReplacement();
     return isHandled;

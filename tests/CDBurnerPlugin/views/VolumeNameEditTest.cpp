@@ -157,6 +157,17 @@ TEST_F(VolumeNameEditTest, APairOfSurrogatesStaysWhole) {
     expect("abcxd", 4);
 }
 
+TEST_F(VolumeNameEditTest, StaysSelectedWhenTheFocusIsElsewhereAsTheWindowBecomesActive) {
+    field_.setText(QStringLiteral("name"));
+    field_.clearFocus();
+    field_.selectAll();
+    QEvent activated(QEvent::WindowActivate);
+    QApplication::sendEvent(&field_, &activated);
+    QTest::qWait(0);
+    QApplication::processEvents();
+    EXPECT_EQ(field_.selectedText(), QStringLiteral("name"));
+}
+
 TEST_F(VolumeNameEditTest, ANameOfFiftyIsTheLongest) {
     field_.formatter().awakeFromNib();
     QTest::keyClicks(&field_, QString(60, u'a'));
