@@ -3,6 +3,7 @@
 
 #include "CDBurnerPlugin/ResourceLocator.h"
 
+#include <QBitmap>
 #include <QPainter>
 
 #include <algorithm>
@@ -46,12 +47,25 @@ void VXHelpView::drawRect(QPainter &painter, double scale) const {
     painter.drawImage(QRectF(0, topHeight + middleHeight, bounds.width(), bottomHeight), bottom);
 }
 
+QRegion VXHelpView::shape() const {
+    QImage image(size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    draw(painter, 1.0);
+    painter.end();
+    return QRegion(QBitmap::fromImage(image.createAlphaMask(Qt::ThresholdAlphaDither)));
+}
+
 void VXHelpView::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
+    draw(painter, devicePixelRatioF());
+}
+
+void VXHelpView::draw(QPainter &painter, double scale) const {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (isRightToLeft()) {
         painter.translate(width(), 0);
         painter.scale(-1, 1);
     }
-    drawRect(painter, devicePixelRatioF());
+    drawRect(painter, scale);
 }

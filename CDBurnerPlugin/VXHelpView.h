@@ -20,6 +20,13 @@ public:
     /// `scale` is the painter's device pixels a point.
     void drawRect(QPainter &painter, double scale) const;
 
+    /// What of the view the bubble covers, to the pixel: points. For a window that cannot be
+    /// translucent.
+    QRegion shape() const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+
+private:
+    void draw(QPainter &painter, double scale) const;
 };

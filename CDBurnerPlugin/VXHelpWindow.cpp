@@ -52,19 +52,19 @@ QString paragraph(const QString &title, const QString &text) {
 
 VXHelpWindow::VXHelpWindow(QWidget *parent)
     : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint),
+      bubble_(new VXHelpView(this)),
       text_(new QLabel(helpText())) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_NoMouseReplay);
     setLayoutDirection(localizationDirection());
     setWindowTitle(localizedString("Help"));
     setAccessibleName(localizedString("Help"));
-    auto *bubble = new VXHelpView(this);
     // A screen reader says it as soon as the bubble is shown.
-    bubble->setAccessibleName(QTextDocumentFragment::fromHtml(helpText()).toPlainText());
+    bubble_->setAccessibleName(QTextDocumentFragment::fromHtml(helpText()).toPlainText());
     auto *outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(bubble);
-    auto *inner = new QVBoxLayout(bubble);
+    outer->addWidget(bubble_);
+    auto *inner = new QVBoxLayout(bubble_);
     inner->setContentsMargins(margin, VXHelpView::pointerHeight + margin, margin, margin - 2);
     inner->addWidget(text_);
     QPalette colors = text_->palette();
@@ -129,6 +129,14 @@ void VXHelpWindow::stopMonitoring() {
         isMonitoring_ = false;
         qApp->removeEventFilter(this);
         disconnect(activeWindowConnection_);
+    }
+}
+
+void VXHelpWindow::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    if (QGuiApplication::platformName() == QLatin1String("xcb")) {
+        // Where no compositor runs, what is translucent would be black.
+        setMask(bubble_->shape());
     }
 }
 

@@ -6,6 +6,7 @@
 
 class QLabel;
 class QWindow;
+class VXHelpView;
 
 /// The help bubble: a borderless window that behaves like a menu. While it is open, any key and any
 /// mouse press outside it close it and reach nobody else, shortcuts included; the wheel does
@@ -44,6 +45,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
@@ -51,6 +53,7 @@ private:
     bool isInBubble(const QObject *watched, const QPointF &global) const;
     void stopMonitoring();
 
+    VXHelpView *bubble_;
     QLabel *text_;
     bool isMonitoring_ = false; // Events and the active window are being watched.
     QMetaObject::Connection activeWindowConnection_;

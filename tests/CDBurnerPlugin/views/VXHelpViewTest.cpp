@@ -58,4 +58,19 @@ TEST_F(HelpBackground, EachViewReadsThePicturesAnew) {
     EXPECT_EQ(ResourceLocator::loadCount(file), before + 1);
 }
 
+TEST(HelpShape, LeavesOutTheCornersAndAllBesideThePointer) {
+    VXHelpView view;
+    view.resize(300, 350);
+    const int pointer = VXHelpView::pointerFromEnd;
+    const QRegion shape = view.shape();
+    EXPECT_TRUE(shape.contains(QPoint(150, 175)));
+    EXPECT_TRUE(shape.contains(QPoint(300 - pointer, 4)));
+    EXPECT_FALSE(shape.contains(QPoint(pointer, 4)));
+    EXPECT_FALSE(shape.contains(QPoint(0, VXHelpView::pointerHeight)));
+    EXPECT_FALSE(shape.contains(QPoint(299, 349)));
+    view.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_TRUE(view.shape().contains(QPoint(pointer, 4)));
+    EXPECT_FALSE(view.shape().contains(QPoint(300 - pointer, 4)));
+}
+
 } // namespace
