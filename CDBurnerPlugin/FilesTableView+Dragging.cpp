@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "CDBurnerPlugin/DragPicture.h"
 #include "CDBurnerPlugin/FilesTableModel.h"
 #include "CDBurnerPlugin/FilesTableView.h"
 
+#include <QDrag>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
@@ -46,10 +48,29 @@ qint64 FilesTableView::dropRowAt(int y) const {
 void FilesTableView::startDrag(Qt::DropActions supportedActions) {
     const QPointer<FilesTableView> guard(this); // The drag runs an event loop of its own.
     isDragFromHere_ = true;
-    QTableView::startDrag(supportedActions);
+    reportRow(-1); // What floats over a row would stay behind.
+    dragSelectedRows(supportedActions);
     if (guard != nullptr) {
         isDragFromHere_ = false;
+        hoverAgain();
     }
+}
+
+void FilesTableView::dragSelectedRows(Qt::DropActions supportedActions) {
+    QModelIndexList names;
+    for (const std::int64_t row : selectedRowIndexes()) {
+        names.append(filesModel_->index(static_cast<int>(row), FilesTableModel::filename));
+    }
+    QMimeData *const pasteboard = names.isEmpty() ? nullptr : filesModel_->mimeData(names);
+    if (pasteboard == nullptr) {
+        return;
+    }
+    const DragPicture picture = dragPicture(names.first().data().toString(), names.size(), *this);
+    auto *const drag = new QDrag(this); // Qt deletes it when the drag is over.
+    drag->setMimeData(pasteboard);
+    drag->setPixmap(picture.pixmap);
+    drag->setHotSpot(picture.hotSpot);
+    drag->exec(supportedActions, Qt::CopyAction);
 }
 
 void FilesTableView::answerDrag(QDragMoveEvent *event) {

@@ -101,6 +101,7 @@ private:
     void reportRow(qint64 row);
     void hoverAgain();
     void drawFocus();
+    void dragSelectedRows(Qt::DropActions supportedActions);
     void answerDrag(QDragMoveEvent *event);
     void clearDropFeedback();
 

@@ -186,20 +186,6 @@ void VXCDBurnerMainWindowController::setUpTexts() {
     _capacityView->setAccessibleName(localizedString("Used capacity"));
 }
 
-void VXCDBurnerMainWindowController::setUpLook() {
-    _window->setWindowIcon(ResourceLocator::icon(QStringLiteral("icon_cd_burner")));
-    showTypeIcon();
-    // The caption lies over the list, which takes what is dropped on it.
-    _txtDragHere->setAttribute(Qt::WA_TransparentForMouseEvents);
-    _txtDragHere->raise();
-    _dragImageView->raise();
-    // The amounts change with every file: they take the room there is, whatever they read.
-    for (QLabel *const label : {_txtUsedCapacity, _txtRetainedCapacity}) {
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        label->setTextFormat(Qt::PlainText);
-    }
-}
-
 void VXCDBurnerMainWindowController::setUpActions() {
     const auto onClick = [this](QAbstractButton *button, auto action) {
         QObject::connect(button, &QAbstractButton::clicked, &_connections,

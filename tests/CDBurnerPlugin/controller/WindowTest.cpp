@@ -5,8 +5,10 @@
 #include "CDBurnerPlugin/VXHelpWindow.h"
 
 #include <QElapsedTimer>
+#include <QFontInfo>
 #include <QFrame>
 #include <QMimeData>
+#include <QScreen>
 #include <QToolButton>
 
 class Window : public ControllerTest {};
@@ -51,6 +53,52 @@ TEST_F(Window, CannotBeMadeTooSmallForItsContent) {
     EXPECT_GE(burnButton()->width(), burnButton()->minimumSizeHint().width());
     EXPECT_TRUE(window->rect().contains(
         QRect(burnButton()->mapTo(window, QPoint()), burnButton()->size())));
+}
+
+TEST_F(Window, CannotBeMadeTooSmallForLettersOfTwiceTheSize) {
+    QFont large = QApplication::font();
+    const QFont ordinary = large;
+    large.setPixelSize(2 * QFontInfo(large).pixelSize());
+    QApplication::setFont(large);
+    openWithSongs(3);
+    controller->window()->resize(1, 1);
+    QApplication::processEvents();
+    for (const auto *label : controller->window()->findChildren<QLabel *>()) {
+        if (label->isVisible() && !label->text().isEmpty()) {
+            EXPECT_GE(label->width(), label->sizeHint().width()) << label->text().toStdString();
+            EXPECT_GE(label->height(), label->fontMetrics().height());
+        }
+    }
+    for (const auto *button : controller->window()->findChildren<QPushButton *>()) {
+        EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+    }
+    EXPECT_GE(table()->viewport()->height(), 3 * table()->rectOfRow(0).height());
+    QApplication::setFont(ordinary);
+}
+
+TEST_F(Window, IsLargerWithLargerLetters) {
+    openWithBlankDisc();
+    const QSize ordinarySize = controller->window()->size();
+    const QFont ordinary = QApplication::font();
+    letGo();
+    QFont large = ordinary;
+    large.setPixelSize(24);
+    QApplication::setFont(large);
+    openWhileSearching();
+    const QSize size = controller->window()->size();
+    QApplication::setFont(ordinary);
+    const QSize screen = controller->window()->screen()->availableSize();
+    EXPECT_GT(size.width(), ordinarySize.width());
+    EXPECT_LE(size.width(), std::max(screen.width(), ordinarySize.width()));
+    EXPECT_LE(size.height(), std::max(screen.height(), ordinarySize.height()));
+}
+
+TEST_F(Window, AFullListCanBeMadeNoSmallerThanAnEmptyOne) {
+    openWithBlankDisc();
+    const QSize empty = controller->window()->minimumSizeHint();
+    engine.audio().append("Song", 75);
+    controller->updateUI();
+    EXPECT_EQ(controller->window()->minimumSizeHint(), empty);
 }
 
 TEST_F(Window, PictureTakesDropsEvenWhileTheSheetIsUp) {

@@ -11,6 +11,10 @@
 
 namespace {
 
+struct Starter : FilesTableView {
+    static constexpr auto start = &Starter::startDrag;
+};
+
 class TableDrag : public testing::Test {
 protected:
     TableDrag() {
@@ -114,6 +118,17 @@ TEST_F(TableDrag, RowsAreWrittenByTheDelegate) {
     EXPECT_EQ(recorder_.written, std::vector({IndexSet{1, 3}}));
     recorder_.canDrag = false;
     EXPECT_EQ(table_.model()->mimeData(cells), nullptr);
+}
+
+TEST_F(TableDrag, TheHoverEndsWhereADragStarts) {
+    table_.selectRowIndexes({1, 3});
+    table_.mouseMoved(table_.rectOfRow(1).center());
+    recorder_.hovered.clear();
+    recorder_.canDrag = false; // Rows are written, and there is no drag after all.
+    (table_.*Starter::start)(Qt::CopyAction);
+    EXPECT_EQ(recorder_.written, std::vector({IndexSet{1, 3}}));
+    ASSERT_FALSE(recorder_.hovered.empty());
+    EXPECT_EQ(recorder_.hovered.front(), -1);
 }
 
 TEST_F(TableDrag, RowsOfElsewhereAreNotFromHere) {
