@@ -45,15 +45,17 @@ public:
     }
 };
 
-/// A label whose name is always what it shows, also between two announcements.
+/// A label whose name stays what was announced last, long enough to be asked for; what it shows by
+/// now is its description.
 class AccessibleAnnouncedLabel : public QAccessibleWidget {
 public:
     explicit AccessibleAnnouncedLabel(AnnouncedLabel *label)
         : QAccessibleWidget(label, QAccessible::Notification) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? static_cast<const AnnouncedLabel *>(object())->text()
-                                         : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Description
+                   ? static_cast<const AnnouncedLabel *>(object())->text()
+                   : QAccessibleWidget::text(kind);
     }
 };
 

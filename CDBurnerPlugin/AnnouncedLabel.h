@@ -4,7 +4,8 @@
 #include "CDBurnerPlugin/ElidedLabel.h"
 
 /// A line whose text changes too often to be read out each time. Screen readers are told of a new
-/// text when it is announced, and find what the line shows whenever they look. Main thread.
+/// text when it is announced, which is the line's name for them until the next announcement; what
+/// it shows meanwhile is its description. Main thread.
 class AnnouncedLabel : public ElidedLabel {
     Q_OBJECT
 

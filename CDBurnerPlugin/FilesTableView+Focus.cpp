@@ -4,12 +4,17 @@
 
 #include "CDBurnerPlugin/FilesTableModel.h"
 
+#include <QFocusEvent>
 #include <QItemSelectionModel>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
 QModelIndex FilesTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-    // By rows: the cell of the name is the one that a screen reader reads the row by.
+    // By rows: Home and End are the ends of the list, and the cell of the name is the one that a
+    // screen reader reads the row by.
+    if (action == MoveHome || action == MoveEnd) {
+        modifiers |= Qt::ControlModifier;
+    }
     return QTableView::moveCursor(action, modifiers).siblingAtColumn(FilesTableModel::filename);
 }
 
@@ -21,6 +26,23 @@ void FilesTableView::currentChanged(const QModelIndex &current, const QModelInde
             viewport()->update(rectOfRow(index.row()));
         }
     }
+}
+
+void FilesTableView::focusInEvent(QFocusEvent *event) {
+    QTableView::focusInEvent(event);
+    if (event->reason() == Qt::MouseFocusReason) {
+        return; // The click says which row is meant.
+    }
+    // Once the table itself has been told of as the focus: a screen reader then goes on to the row
+    // that the arrow keys start from.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (hasFocus() && currentIndex().isValid()) {
+                currentChanged(currentIndex(), QModelIndex());
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void FilesTableView::drawFocus() {

@@ -15,6 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace crate {
@@ -117,6 +118,10 @@ void MainWindow::buildToolBar() {
     search_->setPlaceholderText(tr("Search"));
     search_->setAccessibleName(tr("Search songs"));
     search_->setClearButtonEnabled(true);
+    // Its button has only a picture.
+    for (auto *clear : search_->findChildren<QToolButton *>()) {
+        clear->setAccessibleName(tr("Clear the search"));
+    }
     search_->setFixedWidth(searchWidth);
     bar->addWidget(space);
     bar->addWidget(search_);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/MessageBar.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -8,7 +10,18 @@
 
 namespace crate {
 
+namespace {
+
+/// What screen readers speak of by themselves when it comes into sight.
+QAccessibleInterface *notificationFor(const QString & /*className*/, QObject *object) {
+    auto *bar = qobject_cast<MessageBar *>(object);
+    return bar != nullptr ? new QAccessibleWidget(bar, QAccessible::Notification) : nullptr;
+}
+
+} // namespace
+
 MessageBar::MessageBar(QWidget *parent) : QFrame(parent), text_(new QLabel(this)) {
+    QAccessible::installFactory(notificationFor); // Known once, however often it is installed.
     setObjectName(QStringLiteral("messageBar"));
     setBackgroundRole(QPalette::ToolTipBase);
     setAutoFillBackground(true);
@@ -39,6 +52,7 @@ MessageBar::MessageBar(QWidget *parent) : QFrame(parent), text_(new QLabel(this)
 }
 
 void MessageBar::showMessage(const QString &text) {
+    hide(); // Another message is a new one, also for those who hear it.
     text_->setText(text);
     setAccessibleName(text);
     show();

@@ -50,6 +50,24 @@ std::string Accessible::roleName() const {
     return taken(atspi_accessible_get_role_name(object_.get(), nullptr));
 }
 
+std::vector<std::string> Accessible::labels() const {
+    std::vector<std::string> labels;
+    GArray *relations = atspi_accessible_get_relation_set(object_.get(), nullptr);
+    for (guint i = 0; relations != nullptr && i < relations->len; ++i) {
+        const auto relation = owned(g_array_index(relations, AtspiRelation *, i));
+        const bool isLabel =
+            atspi_relation_get_relation_type(relation.get()) == ATSPI_RELATION_LABELLED_BY;
+        for (int target = 0; isLabel && target < atspi_relation_get_n_targets(relation.get());
+             ++target) {
+            labels.push_back(Accessible(atspi_relation_get_target(relation.get(), target)).name());
+        }
+    }
+    if (relations != nullptr) {
+        g_array_free(relations, TRUE);
+    }
+    return labels;
+}
+
 bool Accessible::hasState(AtspiStateType state) const {
     const auto states = owned(atspi_accessible_get_state_set(object_.get()));
     return states != nullptr && atspi_state_set_contains(states.get(), state) != FALSE;

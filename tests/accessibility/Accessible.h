@@ -27,6 +27,8 @@ public:
     std::string description() const;
     AtspiRole role() const;
     std::string roleName() const;
+    /// The names of what labels it.
+    std::vector<std::string> labels() const;
     bool hasState(AtspiStateType state) const;
     /// Visible on the screen, as far as windows do not cover it.
     bool isShowing() const { return hasState(ATSPI_STATE_SHOWING); }

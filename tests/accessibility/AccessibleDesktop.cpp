@@ -34,7 +34,7 @@ AccessibleDesktop::AccessibleDesktop() {
 void AccessibleDesktop::startDisplay() {
     display_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"Xvfb", "-displayfd", "3", "-screen", "0", "1280x1024x24",
-                                 "-nolisten", "tcp"},
+                                 "-noreset", "-nolisten", "tcp"},
         home_ / "display.log");
     setVariable("DISPLAY", ":" + display_->readLine());
 }
