@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>مدى التقدّم</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>تعذرت الكتابة على القرص الموجود في المحرك «&#x2068;%@&#x2069;». لم يعد القرص صالحًا للاستخدام: حاول مرة أخرى بقرص جديد، ويفضل أن يكون من علامة أخرى.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>درج المحرك «&#x2068;%@&#x2069;» مفتوح. ضع قرصًا مضغوطًا فارغًا، وأغلق الدرج، ثم حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>أُخرج القرص من المحرك «&#x2068;%@&#x2069;»، أو أُدخل قرص آخر. أدخل قرصًا مضغوطًا فارغًا وحاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>لا يصبح المحرك «&#x2068;%@&#x2069;» جاهزًا. أخرج القرص ونظفه أو استخدم قرصًا آخر، ثم حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>القرص الموجود في المحرك «&#x2068;%@&#x2069;» غير قابل للتسجيل. أدخل قرص CD-R أو CD-RW فارغًا.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>القرص الموجود في المحرك «&#x2068;%@&#x2069;» محمي ضد الكتابة. أدخل قرصًا آخر.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>المساحة على القرص الموجود في المحرك «&#x2068;%@&#x2069;» أقل مما ذكر. انسخ على قرص من علامة أخرى.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>تعذر على المحرك «&#x2068;%@&#x2069;» ضبط الليزر على القرص. جرب قرصًا من علامة أخرى. إذا حدث ذلك مع كل قرص، فقد تكون العدسة متسخة.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>اضطر المحرك «&#x2068;%@&#x2069;» إلى انتظار البيانات، فتلف القرص. أغلق البرامج الأخرى وحاول مرة أخرى بقرص جديد.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>تعذرت الكتابة على القرص الموجود في المحرك «&#x2068;%@&#x2069;» عند القطاع &#x2068;%@&#x2069;. لم يعد القرص صالحًا للاستخدام: حاول مرة أخرى بقرص جديد، ويفضل أن يكون من علامة أخرى.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>تعذر على المحرك «&#x2068;%@&#x2069;» إغلاق القرص. قد لا تتمكن محركات أخرى من قراءته: حاول مرة أخرى بقرص جديد.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>تعذرت قراءة القرص الموجود في المحرك «&#x2068;%@&#x2069;». نظفه أو استخدم قرصًا آخر.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>يبلغ المحرك «&#x2068;%@&#x2069;» عن عطل فيه. أطفئه ثم شغله من جديد. إذا لم يفد ذلك، فاستخدم محركًا آخر.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>اضطرب الاتصال بالمحرك «&#x2068;%@&#x2069;». افحص الكبل، وصله بالحاسوب مباشرة، ثم حاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>يرفض المحرك «&#x2068;%@&#x2069;» الكتابة بالطريقة المطلوبة هنا. استخدم محركًا آخر.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>لا يمكن إخراج القرص من المحرك «&#x2068;%@&#x2069;»: برنامج آخر أقفله.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>غير مسموح لك باستخدام المحرك «&#x2068;%@&#x2069;». اطلب من المسؤول منحك حق الوصول إليه.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>غير مسموح لك باستخدام المحرك «&#x2068;%@&#x2069;»: فهو يتبع المجموعة «&#x2068;%@&#x2069;». اطلب من المسؤول إضافتك إلى هذه المجموعة، ثم سجل الدخول من جديد.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>يستخدم برنامج آخر المحرك «&#x2068;%@&#x2069;». أغلق ذلك البرنامج وحاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>يستخدم البرنامج &#x2068;%@&#x2069; المحرك «&#x2068;%@&#x2069;». أغلق ذلك البرنامج وحاول مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>يبلغ المحرك «&#x2068;%@&#x2069;» عن خطأ (&#x2068;%@&#x2069;). حاول مرة أخرى؛ وإذا لم يفد ذلك، فاستخدم قرصًا آخر أو محركًا آخر.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>فُصل المحرك «&#x2068;%@&#x2069;». صله من جديد وابدأ مرة أخرى بقرص مضغوط فارغ.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>المحرك «&#x2068;%@&#x2069;» لا يستجيب. أطفئه ثم شغله من جديد، أو أعد توصيله.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>لا يمكن استخدام المحرك «&#x2068;%@&#x2069;» (&#x2068;%@&#x2069;).</translation>
+    </message>
 </context>
 </TS>

@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Fortschritt</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Die Disc im Laufwerk „%@“ konnte nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>Die Schublade des Laufwerks „%@“ ist offen. Legen Sie eine leere CD ein, schließen Sie sie und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>Die Disc wurde aus dem Laufwerk „%@“ genommen, oder eine andere wurde eingelegt. Legen Sie eine leere CD ein und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>Das Laufwerk „%@“ wird nicht bereit. Nehmen Sie die Disc heraus, reinigen Sie sie oder nehmen Sie eine andere, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>Die Disc im Laufwerk „%@“ ist nicht beschreibbar. Legen Sie eine leere CD-R oder CD-RW ein.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>Die Disc im Laufwerk „%@“ ist schreibgeschützt. Legen Sie eine andere ein.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>Auf der Disc im Laufwerk „%@“ ist weniger Platz, als sie angab. Brennen Sie auf eine Disc einer anderen Marke.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>Das Laufwerk „%@“ konnte seinen Laser nicht auf die Disc einstellen. Versuchen Sie es mit einer Disc einer anderen Marke. Geschieht das bei jeder Disc, ist vielleicht die Linse verschmutzt.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>Das Laufwerk „%@“ musste auf Daten warten, und die Disc ist verdorben. Schließen Sie andere Programme und versuchen Sie es mit einer neuen Disc.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Die Disc im Laufwerk „%@“ konnte bei Sektor %@ nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>Das Laufwerk „%@“ konnte die Disc nicht abschließen. Andere Laufwerke können sie vielleicht nicht lesen: Versuchen Sie es mit einer neuen.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>Die Disc im Laufwerk „%@“ konnte nicht gelesen werden. Reinigen Sie sie, oder nehmen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>Das Laufwerk „%@“ meldet einen eigenen Defekt. Schalten Sie es aus und wieder ein. Hilft das nicht, verwenden Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>Die Verbindung zum Laufwerk „%@“ wurde gestört. Prüfen Sie das Kabel, schließen Sie es direkt an den Computer an und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>Das Laufwerk „%@“ weigert sich, so zu schreiben, wie es hier nötig ist. Verwenden Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>Die Disc lässt sich nicht aus dem Laufwerk „%@“ nehmen: Ein anderes Programm hat es verriegelt.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>Sie dürfen das Laufwerk „%@“ nicht benutzen. Bitten Sie einen Administrator um Zugriff darauf.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>Sie dürfen das Laufwerk „%@“ nicht benutzen: Es gehört der Gruppe „%@“. Bitten Sie einen Administrator, Sie in diese Gruppe aufzunehmen, und melden Sie sich dann neu an.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Ein anderes Programm benutzt das Laufwerk „%@“. Schließen Sie dieses Programm und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Das Programm %@ benutzt das Laufwerk „%@“. Schließen Sie dieses Programm und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>Das Laufwerk „%@“ meldet einen Fehler (%@). Versuchen Sie es erneut; hilft das nicht, verwenden Sie eine andere Disc oder ein anderes Laufwerk.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>Das Laufwerk „%@“ wurde getrennt. Schließen Sie es wieder an und beginnen Sie neu mit einer leeren CD.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>Das Laufwerk „%@“ antwortet nicht. Schalten Sie es aus und wieder ein, oder schließen Sie es neu an.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>Das Laufwerk „%@“ ist nicht benutzbar (%@).</translation>
+    </message>
 </context>
 </TS>

@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Progreso</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>No se pudo grabar el disco de la unidad «%@». Ya no se puede usar: inténtelo con uno nuevo, preferiblemente de otra marca.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>La bandeja de la unidad «%@» está abierta. Ponga un CD vacío, ciérrela e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>Se sacó el disco de la unidad «%@» o se puso otro. Inserte un CD vacío e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>La unidad «%@» no llega a estar lista. Saque el disco, límpielo o use otro, e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>El disco de la unidad «%@» no se puede grabar. Inserte un CD-R o CD-RW vacío.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>El disco de la unidad «%@» está protegido contra escritura. Inserte otro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>El disco de la unidad «%@» tiene menos espacio del que indicaba. Grabe en un disco de otra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>La unidad «%@» no pudo ajustar el láser al disco. Pruebe con un disco de otra marca. Si ocurre con todos los discos, quizá la lente esté sucia.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>La unidad «%@» tuvo que esperar datos y el disco se ha echado a perder. Cierre otros programas e inténtelo con un disco nuevo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>No se pudo grabar el disco de la unidad «%@» en el sector %@. Ya no se puede usar: inténtelo con uno nuevo, preferiblemente de otra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>La unidad «%@» no pudo cerrar el disco. Puede que otras unidades no lo lean: inténtelo con uno nuevo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>No se pudo leer el disco de la unidad «%@». Límpielo o use otro.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>La unidad «%@» informa de un fallo propio. Apáguela y vuelva a encenderla. Si no sirve, use otra.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>Se ha perturbado la conexión con la unidad «%@». Compruebe el cable, conéctela directamente al equipo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>La unidad «%@» se niega a grabar del modo que hace falta aquí. Use otra unidad.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>No se puede sacar el disco de la unidad «%@»: otro programa la ha bloqueado.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>No tiene permiso para usar la unidad «%@». Pida acceso a un administrador.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>No tiene permiso para usar la unidad «%@»: pertenece al grupo «%@». Pida a un administrador que le añada a ese grupo y vuelva a iniciar sesión.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Otro programa está usando la unidad «%@». Ciérrelo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>El programa %@ está usando la unidad «%@». Ciérrelo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>La unidad «%@» informa de un error (%@). Inténtelo de nuevo; si no sirve, use otro disco u otra unidad.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>La unidad «%@» se ha desconectado. Conéctela otra vez y empiece de nuevo con un CD vacío.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>La unidad «%@» no responde. Apáguela y vuelva a encenderla, o conéctela de nuevo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>No se puede usar la unidad «%@» (%@).</translation>
+    </message>
 </context>
 </TS>

@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Progression</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» n’a pas pu être gravé. Il n’est plus utilisable&#xa0;: réessayez avec un disque neuf, de préférence d’une autre marque.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>Le tiroir du lecteur «&#xa0;%@&#xa0;» est ouvert. Insérez un CD vierge, fermez-le et réessayez.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>Le disque a été retiré du lecteur «&#xa0;%@&#xa0;», ou un autre y a été inséré. Insérez un CD vierge et réessayez.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» n’est toujours pas prêt. Retirez le disque, nettoyez-le ou prenez-en un autre, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» n’est pas inscriptible. Insérez un CD-R ou un CD-RW vierge.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» est protégé en écriture. Insérez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» a moins de place qu’annoncé. Gravez sur un disque d’une autre marque.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» n’a pas pu régler son laser sur le disque. Essayez un disque d’une autre marque. Si cela arrive avec tous les disques, la lentille est peut-être sale.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» a dû attendre des données et le disque est perdu. Fermez les autres programmes et réessayez avec un disque neuf.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» n’a pas pu être gravé au secteur %@. Il n’est plus utilisable&#xa0;: réessayez avec un disque neuf, de préférence d’une autre marque.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» n’a pas pu fermer le disque. D’autres lecteurs risquent de ne pas pouvoir le lire&#xa0;: réessayez avec un disque neuf.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>Le disque dans le lecteur «&#xa0;%@&#xa0;» n’a pas pu être lu. Nettoyez-le ou prenez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» signale une panne interne. Éteignez-le et rallumez-le. Si cela ne suffit pas, utilisez un autre lecteur.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>La connexion au lecteur «&#xa0;%@&#xa0;» a été perturbée. Vérifiez le câble, branchez-le directement à l’ordinateur et réessayez.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» refuse de graver de la manière nécessaire ici. Utilisez un autre lecteur.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>Le disque ne peut pas être retiré du lecteur «&#xa0;%@&#xa0;»&#xa0;: un autre programme l’a verrouillé.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>Vous n’êtes pas autorisé à utiliser le lecteur «&#xa0;%@&#xa0;». Demandez l’accès à un administrateur.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>Vous n’êtes pas autorisé à utiliser le lecteur «&#xa0;%@&#xa0;»&#xa0;: il appartient au groupe «&#xa0;%@&#xa0;». Demandez à un administrateur de vous ajouter à ce groupe, puis reconnectez-vous.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Un autre programme utilise le lecteur «&#xa0;%@&#xa0;». Fermez ce programme et réessayez.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Le programme %@ utilise le lecteur «&#xa0;%@&#xa0;». Fermez ce programme et réessayez.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» signale une erreur (%@). Réessayez&#xa0;; si cela ne suffit pas, utilisez un autre disque ou un autre lecteur.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» a été débranché. Rebranchez-le et recommencez avec un CD vierge.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» ne répond pas. Éteignez-le et rallumez-le, ou rebranchez-le.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» ne peut pas être utilisé (%@).</translation>
+    </message>
 </context>
 </TS>

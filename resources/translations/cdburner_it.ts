@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Avanzamento</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Impossibile scrivere il disco nell’unità «%@». Non è più utilizzabile: riprovare con un disco nuovo, meglio se di un’altra marca.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>Il vassoio dell’unità «%@» è aperto. Inserire un CD vuoto, chiuderlo e riprovare.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>Il disco è stato tolto dall’unità «%@», oppure ne è stato inserito un altro. Inserire un CD vuoto e riprovare.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>L’unità «%@» non diventa pronta. Togliere il disco, pulirlo o prenderne un altro, e riprovare.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>Il disco nell’unità «%@» non è registrabile. Inserire un CD-R o CD-RW vuoto.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>Il disco nell’unità «%@» è protetto da scrittura. Inserirne un altro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>Il disco nell’unità «%@» ha meno spazio di quanto dichiarato. Usare un disco di un’altra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>L’unità «%@» non ha potuto regolare il laser sul disco. Provare un disco di un’altra marca. Se succede con ogni disco, la lente potrebbe essere sporca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>L’unità «%@» ha dovuto attendere i dati e il disco è rovinato. Chiudere gli altri programmi e riprovare con un disco nuovo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Impossibile scrivere il disco nell’unità «%@» al settore %@. Non è più utilizzabile: riprovare con un disco nuovo, meglio se di un’altra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>L’unità «%@» non ha potuto chiudere il disco. Altre unità potrebbero non leggerlo: riprovare con un disco nuovo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>Impossibile leggere il disco nell’unità «%@». Pulirlo o prenderne un altro.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>L’unità «%@» segnala un proprio guasto. Spegnerla e riaccenderla. Se non basta, usarne un’altra.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>La connessione con l’unità «%@» è stata disturbata. Controllare il cavo, collegarla direttamente al computer e riprovare.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>L’unità «%@» rifiuta di scrivere nel modo necessario qui. Usare un’altra unità.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>Il disco non può essere tolto dall’unità «%@»: un altro programma l’ha bloccata.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>Non si è autorizzati a usare l’unità «%@». Chiedere l’accesso a un amministratore.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>Non si è autorizzati a usare l’unità «%@»: appartiene al gruppo «%@». Chiedere a un amministratore di essere aggiunti a questo gruppo, poi accedere di nuovo.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Un altro programma sta usando l’unità «%@». Chiuderlo e riprovare.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Il programma %@ sta usando l’unità «%@». Chiuderlo e riprovare.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>L’unità «%@» segnala un errore (%@). Riprovare; se non basta, usare un altro disco o un’altra unità.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>L’unità «%@» è stata scollegata. Ricollegarla e ricominciare con un CD vuoto.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>L’unità «%@» non risponde. Spegnerla e riaccenderla, oppure ricollegarla.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>Impossibile usare l’unità «%@» (%@).</translation>
+    </message>
 </context>
 </TS>

@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>進行状況</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>ドライブ「%@」のディスクに書き込めませんでした。このディスクはもう使えません。別のメーカーの新しいディスクでやり直してください。</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>ドライブ「%@」のトレイが開いています。空の CD を入れて閉じてから、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>ドライブ「%@」からディスクが取り出されたか、別のディスクが入れられました。空の CD を入れて、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>ドライブ「%@」の準備ができません。ディスクを取り出し、拭くか別のものに替えて、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>ドライブ「%@」のディスクには書き込めません。空の CD-R または CD-RW を入れてください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>ドライブ「%@」のディスクは書き込み禁止です。別のディスクを入れてください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>ドライブ「%@」のディスクの容量が、表示より少なくなっています。別のメーカーのディスクに書き込んでください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>ドライブ「%@」はレーザーをディスクに合わせて調整できませんでした。別のメーカーのディスクを試してください。どのディスクでも起こる場合は、レンズが汚れている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>ドライブ「%@」へのデータが間に合わず、ディスクは使えなくなりました。ほかのプログラムを閉じて、新しいディスクでやり直してください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>ドライブ「%@」のディスクのセクター %@ に書き込めませんでした。このディスクはもう使えません。別のメーカーの新しいディスクでやり直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>ドライブ「%@」はディスクを閉じられませんでした。ほかのドライブでは読めない可能性があります。新しいディスクでやり直してください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>ドライブ「%@」のディスクを読み取れませんでした。拭くか、別のディスクに替えてください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>ドライブ「%@」が自身の故障を報告しています。電源を入れ直してください。直らない場合は、別のドライブを使ってください。</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>ドライブ「%@」との接続に異常がありました。ケーブルを確かめ、コンピューターに直接つないで、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>ドライブ「%@」は、ここで必要な方式での書き込みを受け付けません。別のドライブを使ってください。</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>ドライブ「%@」からディスクを取り出せません。別のプログラムがロックしています。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>ドライブ「%@」を使う権限がありません。管理者にアクセス権を求めてください。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>ドライブ「%@」を使う権限がありません。このドライブはグループ「%@」に属しています。管理者にこのグループへの追加を依頼し、ログインし直してください。</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>ドライブ「%@」は別のプログラムが使用しています。そのプログラムを閉じて、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>プログラム %@ がドライブ「%@」を使用しています。そのプログラムを閉じて、やり直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>ドライブ「%@」がエラー (%@) を報告しました。やり直してください。直らない場合は、別のディスクか別のドライブを使ってください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>ドライブ「%@」の接続が切れました。もう一度つなぎ、空の CD で最初からやり直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>ドライブ「%@」が応答しません。電源を入れ直すか、つなぎ直してください。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>ドライブ「%@」は使用できません (%@)。</translation>
+    </message>
 </context>
 </TS>

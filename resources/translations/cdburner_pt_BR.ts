@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Progresso</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Não foi possível gravar o disco na unidade “%@”. Ele não pode mais ser usado: tente com um novo, de preferência de outra marca.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>A bandeja da unidade “%@” está aberta. Coloque um CD vazio, feche-a e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>O disco foi retirado da unidade “%@”, ou outro foi colocado. Insira um CD vazio e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>A unidade “%@” não fica pronta. Retire o disco, limpe-o ou use outro, e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>O disco na unidade “%@” não é gravável. Insira um CD-R ou CD-RW vazio.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>O disco na unidade “%@” está protegido contra gravação. Insira outro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>O disco na unidade “%@” tem menos espaço do que informou. Grave em um disco de outra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>A unidade “%@” não conseguiu ajustar o laser ao disco. Tente um disco de outra marca. Se isso acontecer com todos os discos, a lente pode estar suja.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>A unidade “%@” teve de esperar pelos dados e o disco foi perdido. Feche outros programas e tente com um disco novo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Não foi possível gravar o disco na unidade “%@” no setor %@. Ele não pode mais ser usado: tente com um novo, de preferência de outra marca.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>A unidade “%@” não conseguiu fechar o disco. Outras unidades talvez não consigam lê-lo: tente com um novo.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>Não foi possível ler o disco na unidade “%@”. Limpe-o ou use outro.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>A unidade “%@” informa um defeito próprio. Desligue-a e ligue-a de novo. Se não adiantar, use outra.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>A conexão com a unidade “%@” foi perturbada. Verifique o cabo, conecte-a diretamente ao computador e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>A unidade “%@” recusa-se a gravar do modo necessário aqui. Use outra unidade.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>Não é possível retirar o disco da unidade “%@”: outro programa a bloqueou.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>Você não tem permissão para usar a unidade “%@”. Peça acesso a um administrador.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>Você não tem permissão para usar a unidade “%@”: ela pertence ao grupo “%@”. Peça a um administrador que o adicione a esse grupo e entre de novo na sessão.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Outro programa está usando a unidade “%@”. Feche esse programa e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>O programa %@ está usando a unidade “%@”. Feche esse programa e tente de novo.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>A unidade “%@” informa um erro (%@). Tente de novo; se não adiantar, use outro disco ou outra unidade.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>A unidade “%@” foi desconectada. Conecte-a de novo e recomece com um CD vazio.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>A unidade “%@” não responde. Desligue-a e ligue-a de novo, ou reconecte-a.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>Não é possível usar a unidade “%@” (%@).</translation>
+    </message>
 </context>
 </TS>

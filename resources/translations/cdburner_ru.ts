@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>Ход выполнения</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Не удалось записать диск в приводе «%@». Он больше непригоден: повторите с новым диском, лучше другой марки.</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>Лоток привода «%@» открыт. Вставьте чистый компакт-диск, закройте лоток и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>Диск был извлечён из привода «%@» или заменён другим. Вставьте чистый компакт-диск и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>Привод «%@» не переходит в состояние готовности. Извлеките диск, протрите его или возьмите другой и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>Диск в приводе «%@» не предназначен для записи. Вставьте чистый CD-R или CD-RW.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>Диск в приводе «%@» защищён от записи. Вставьте другой.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>На диске в приводе «%@» меньше места, чем было указано. Запишите на диск другой марки.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>Привод «%@» не смог настроить лазер на этот диск. Попробуйте диск другой марки. Если так происходит с каждым диском, возможно, загрязнена линза.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>Приводу «%@» пришлось ждать данных, и диск испорчен. Закройте другие программы и повторите с новым диском.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>Не удалось записать диск в приводе «%@»: ошибка в секторе %@. Он больше непригоден: повторите с новым диском, лучше другой марки.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>Привод «%@» не смог закрыть диск. Другие приводы, возможно, не прочитают его: повторите с новым диском.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>Не удалось прочитать диск в приводе «%@». Протрите его или возьмите другой.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>Привод «%@» сообщает о собственной неисправности. Выключите его и включите снова. Если это не поможет, используйте другой привод.</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>Связь с приводом «%@» была нарушена. Проверьте кабель, подключите привод прямо к компьютеру и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>Привод «%@» отказывается записывать нужным способом. Используйте другой привод.</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>Диск нельзя извлечь из привода «%@»: его заблокировала другая программа.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>У вас нет прав на использование привода «%@». Попросите доступ у администратора.</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>У вас нет прав на использование привода «%@»: он принадлежит группе «%@». Попросите администратора добавить вас в эту группу, затем войдите в систему заново.</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Привод «%@» используется другой программой. Закройте её и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>Программа %@ использует привод «%@». Закройте её и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>Привод «%@» сообщает об ошибке (%@). Повторите попытку; если не поможет, возьмите другой диск или другой привод.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>Привод «%@» был отключён. Подключите его снова и начните заново с чистым компакт-диском.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>Привод «%@» не отвечает. Выключите его и включите снова или переподключите.</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>Невозможно использовать привод «%@» (%@).</translation>
+    </message>
 </context>
 </TS>

@@ -584,5 +584,101 @@
         <source>Progress</source>
         <translation>进度</translation>
     </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>无法写入光驱“%@”中的光盘。该光盘已不能使用：请换一张新光盘重试，最好是其他品牌。</translation>
+    </message>
+    <message>
+        <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
+        <translation>光驱“%@”的托盘已打开。请放入空白 CD，关闭托盘后重试。</translation>
+    </message>
+    <message>
+        <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
+        <translation>光驱“%@”中的光盘已被取出或更换。请插入空白 CD 后重试。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
+        <translation>光驱“%@”始终未就绪。请取出光盘，擦拭干净或换一张，然后重试。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
+        <translation>光驱“%@”中的光盘不可刻录。请插入空白 CD-R 或 CD-RW。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
+        <translation>光驱“%@”中的光盘有写保护。请换一张。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
+        <translation>光驱“%@”中光盘的空间比其标称的少。请使用其他品牌的光盘刻录。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
+        <translation>光驱“%@”无法针对该光盘调整激光。请试用其他品牌的光盘。如果每张光盘都如此，可能是镜头脏了。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
+        <translation>光驱“%@”因等待数据而中断，光盘已损坏。请关闭其他程序，换一张新光盘重试。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
+        <translation>无法写入光驱“%@”中光盘的扇区 %@。该光盘已不能使用：请换一张新光盘重试，最好是其他品牌。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
+        <translation>光驱“%@”无法封闭光盘。其他光驱可能无法读取：请换一张新光盘重试。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
+        <translation>无法读取光驱“%@”中的光盘。请擦拭干净或换一张。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
+        <translation>光驱“%@”报告自身故障。请关闭后重新打开。如果无效，请使用其他光驱。</translation>
+    </message>
+    <message>
+        <source>The connection to the drive “%@” was disturbed. Check its cable, connect it directly to the computer, and try again.</source>
+        <translation>与光驱“%@”的连接受到干扰。请检查线缆，将其直接连接到计算机，然后重试。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” refuses to write in the way that is needed here. Use another drive.</source>
+        <translation>光驱“%@”拒绝以此处所需的方式写入。请使用其他光驱。</translation>
+    </message>
+    <message>
+        <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
+        <translation>无法从光驱“%@”中取出光盘：另一个程序已将其锁定。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
+        <translation>您无权使用光驱“%@”。请向管理员申请访问权限。</translation>
+    </message>
+    <message>
+        <source>You are not allowed to use the drive “%@”: it belongs to the group “%@”. Ask an administrator to add you to this group, then log in again.</source>
+        <translation>您无权使用光驱“%@”：它属于用户组“%@”。请管理员将您加入该组，然后重新登录。</translation>
+    </message>
+    <message>
+        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
+        <translation>另一个程序正在使用光驱“%@”。请关闭该程序后重试。</translation>
+    </message>
+    <message>
+        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
+        <translation>程序 %@ 正在使用光驱“%@”。请关闭该程序后重试。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
+        <translation>光驱“%@”报告错误 (%@)。请重试；如果无效，请换一张光盘或使用其他光驱。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>
+        <translation>光驱“%@”已断开。请重新连接，并使用空白 CD 重新开始。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” does not answer. Switch it off and on again, or connect it anew.</source>
+        <translation>光驱“%@”没有响应。请关闭后重新打开，或重新连接。</translation>
+    </message>
+    <message>
+        <source>The drive “%@” cannot be used (%@).</source>
+        <translation>无法使用光驱“%@”(%@)。</translation>
+    </message>
 </context>
 </TS>
