@@ -21,6 +21,15 @@ TEST_F(SetUp, WindowIsReadyWhileTheSearchForDrivesRuns) {
     EXPECT_TRUE(engine.handles.empty());
 }
 
+TEST_F(SetUp, LongSearchForDrivesIsSpokenOf) {
+    engine.holdSearch();
+    openWhileSearching();
+    EXPECT_EQ(tip(), "") << "a short one is not";
+    EXPECT_TRUE(runUntil([this] { return tip() == "Looking for disc drives..."; }));
+    engine.releaseSearch();
+    EXPECT_TRUE(runUntil([this] { return tip() == "You should connect a disc drive!"; }));
+}
+
 TEST_F(SetUp, DrivesAreNeverAskedForHereBeforeTheFirstSearchIsDone) {
     engine.addDrive("Drive");
     engine.audio().append("Song", 75);

@@ -95,15 +95,20 @@ TEST_P(Translations, TellTheTwoTypesOfDiscApart) {
     EXPECT_NE(localizedString("Yes"), localizedString("No"));
 }
 
-TEST_P(Translations, HaveDistinctMnemonics) {
-    const SpokenLanguage spoken(GetParam());
+TEST_P(Translations, HaveAMnemonicWhereTheKeyHasOneAndNoTwoEqualOnes) {
     QSet<QChar> seen;
-    for (const char *key : {"Disc &drive:", "Volume &name:", "&Eject", "C&lear", "&Burn"}) {
-        const QString text = localizedString(key);
-        ASSERT_EQ(text.count(QLatin1Char('&')), 1) << key;
-        seen.insert(text.at(text.indexOf(QLatin1Char('&')) + 1).toLower());
+    for (const TranslatedText &text : file_.texts) {
+        const qsizetype place = text.text.indexOf(QLatin1Char('&'));
+        ASSERT_EQ(text.text.count(QLatin1Char('&')), text.key.count(QLatin1Char('&')))
+            << text.key.toStdString();
+        if (place >= 0) {
+            const QChar letter = text.text.at(place + 1).toLower();
+            EXPECT_TRUE(letter.isLetterOrNumber()) << text.text.toStdString();
+            EXPECT_FALSE(seen.contains(letter)) << text.text.toStdString();
+            seen.insert(letter);
+        }
     }
-    EXPECT_EQ(seen.size(), 5);
+    EXPECT_GE(seen.size(), 5); // All stand in the one window.
 }
 
 // Texts are written with the marks of the language, and leave room at their ends to nobody.
