@@ -81,8 +81,8 @@ std::optional<long> numberIn(const std::filesystem::path &path) {
 
 } // namespace
 
-std::unique_ptr<UdevWatcher> UdevWatcher::create() {
-    if (::access("/run/udev/control", F_OK) != 0) {
+std::unique_ptr<UdevWatcher> UdevWatcher::create(const std::filesystem::path &control) {
+    if (::access(control.c_str(), F_OK) != 0) {
         return nullptr; // libudev would connect all the same, and never hear anything.
     }
     auto connection = std::make_unique<UdevConnection>();

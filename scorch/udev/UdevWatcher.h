@@ -17,8 +17,10 @@ struct UdevConnection;
 /// opened or asked. The thread "scorch-udev" waits for events from the search to the end.
 class UdevWatcher final : public DeviceWatcher {
 public:
-    /// Null where udev does not run, or cannot be listened to.
-    static std::unique_ptr<UdevWatcher> create();
+    /// Null where udev does not run, or cannot be listened to. `control`: a file that is there as
+    /// long as it runs.
+    static std::unique_ptr<UdevWatcher>
+    create(const std::filesystem::path &control = "/run/udev/control");
     ~UdevWatcher() override;
 
     std::vector<FoundDevice> search(Observer observer) override;
