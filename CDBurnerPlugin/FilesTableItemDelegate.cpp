@@ -3,6 +3,26 @@
 
 #include "CDBurnerPlugin/FilesTableModel.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QStyle>
+#include <QToolTip>
+
+bool FilesTableItemDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                                       const QStyleOptionViewItem &option,
+                                       const QModelIndex &index) {
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QStyle *const style = view->style();
+    const int room = style->subElementRect(QStyle::SE_ItemViewItemText, &cell, view).width() -
+                     2 * (style->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, view) + 1);
+    if (event->type() == QEvent::ToolTip && cell.fontMetrics.horizontalAdvance(cell.text) <= room) {
+        QToolTip::hideText();
+        return true;
+    }
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+}
+
 void FilesTableItemDelegate::initStyleOption(QStyleOptionViewItem *option,
                                              const QModelIndex &index) const {
     QStyledItemDelegate::initStyleOption(option, index);

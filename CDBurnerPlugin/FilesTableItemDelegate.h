@@ -12,6 +12,11 @@ public:
     FilesTableItemDelegate(int roomAtEnd, QObject *parent)
         : QStyledItemDelegate(parent), roomAtEnd_(roomAtEnd) {}
 
+    /// Shows a tip only over a text that is cut off: over one that can be read it would be in the
+    /// way.
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override;
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 

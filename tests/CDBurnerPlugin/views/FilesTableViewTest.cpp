@@ -6,10 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 
 namespace {
 
@@ -164,6 +167,25 @@ TEST(TableRows, HaveAPlaceOverTheWholeWidth) {
     EXPECT_EQ(fixture.table.rowAtPoint(row.center()), 1);
     EXPECT_EQ(fixture.table.rectOfRow(3), QRect(0, 0, 0, 0));
     EXPECT_EQ(fixture.table.rectOfRow(-1), QRect(0, 0, 0, 0));
+}
+
+TEST(TableRows, TellTheirWholeNameOnlyWhereItIsCut) {
+    TableFixture fixture;
+    fixture.burner->append("short", 75);
+    fixture.burner->append(std::string(200, 'x'), 75);
+    fixture.table.reloadData();
+    showActive(fixture.table);
+    const auto tipOver = [&fixture](qint64 row) {
+        const QPoint point = fixture.table.rectOfRow(row).center() - QPoint(100, 0);
+        QWidget *const area = fixture.table.viewport();
+        QHelpEvent event(QEvent::ToolTip, point, area->mapToGlobal(point));
+        QApplication::sendEvent(area, &event);
+        const QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
+        QToolTip::hideText();
+        return tip;
+    };
+    EXPECT_EQ(tipOver(0), QString());
+    EXPECT_EQ(tipOver(1), QString(200, u'x'));
 }
 
 class DeleteKey : public testing::TestWithParam<Qt::Key> {};
