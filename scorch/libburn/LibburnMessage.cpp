@@ -14,6 +14,7 @@ constexpr int busyCode = 0x20102;
 constexpr int commandConditionCode = 0x2010F;
 constexpr int transferFailedCode = 0x2010C;
 constexpr int lostConnectionCode = 0x201A6;
+constexpr int workerEndCode = 0x20178;
 constexpr int hostProblemCode = 0x201A7;
 constexpr int alreadyReleasedCode = 0x20105;
 
@@ -94,6 +95,10 @@ bool isBusyRefusal(const LibburnMessage &message) {
 bool isCueSheetRefusal(const LibburnMessage &message) {
     return message.isError && message.code == commandConditionCode &&
            commandIn(message) == std::uint8_t{0x5D};
+}
+
+bool isWorkerEnd(const LibburnMessage &message) {
+    return message.code == workerEndCode;
 }
 
 bool isLostConnection(const LibburnMessage &message) {

@@ -34,6 +34,9 @@ bool isBusyRefusal(const LibburnMessage &message);
 /// The drive did not accept the plan of the session.
 bool isCueSheetRefusal(const LibburnMessage &message);
 
+/// libburn's worker has written, or failed to, and goes: nothing follows about that job.
+bool isWorkerEnd(const LibburnMessage &message);
+
 /// A command was lost because the drive is not there any more.
 bool isLostConnection(const LibburnMessage &message);
 

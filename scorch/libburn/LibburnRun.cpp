@@ -15,8 +15,8 @@ using namespace std::chrono_literals;
 
 /// How often libburn is asked; a stop request is noticed as often.
 constexpr auto lookInterval = 50ms;
-/// libburn refuses a job while its worker of the one before has not gone yet: half a second.
-constexpr auto workerPatience = 5s;
+/// How often it is looked whether libburn's worker has gone.
+constexpr auto workerInterval = 5ms;
 /// So much room is waited for before the sources are asked again.
 constexpr std::size_t worthwhileBytes = 1U << 18U;
 
@@ -40,22 +40,22 @@ Outcome<> LibburnRun::write(const std::optional<CdText> &text, int speed,
 /// A refusal for a worker that still lives would look like success from then on.
 Outcome<> LibburnRun::start(const std::optional<CdText> &text, int speed,
                             const std::stop_token &stop) {
-    const auto deadline = Clock::now() + workerPatience;
+    const auto deadline = Clock::now() + parts_.patience.worker;
     while (true) {
-        parts_.inbox.clear();
-        bool isStarted = false;
-        bool isAtRest = true;
+        auto start = LibburnSession::Start::impossible;
+        bool isIdle = true;
         const bool didRun = parts_.thread.run([&] {
-            isStarted = parts_.session->write(parts_.plan, text, speed, parts_.ring);
-            isAtRest = parts_.session->isIdle();
+            parts_.inbox.clear();
+            start = parts_.session->write(parts_.plan, text, speed, parts_.ring);
+            isIdle = parts_.session->isIdle();
         });
-        if (!didRun || !isStarted) {
+        if (!didRun || start == LibburnSession::Start::impossible) {
             wasTextRefused_ = didRun && text.has_value();
             return Interruption(errorOfDrive());
         }
         const std::vector<LibburnMessage> errors = parts_.inbox.errors();
-        const bool isRefused = isAtRest && std::any_of(errors.begin(), errors.end(), isBusyRefusal);
-        if (!isRefused) {
+        const bool isRefused = isIdle && std::any_of(errors.begin(), errors.end(), isBusyRefusal);
+        if (start == LibburnSession::Start::asked && !isRefused) {
             return {};
         }
         if (stop.stop_requested()) {
@@ -82,6 +82,18 @@ void LibburnRun::follow(const std::stop_token &stop) {
         if (!isIdle_) {
             pause();
         }
+    }
+    if (isIdle_) {
+        awaitWorkersEnd();
+    }
+}
+
+/// Its last messages say why it failed, and must not be taken for those of the next job.
+void LibburnRun::awaitWorkersEnd() {
+    const auto deadline = Clock::now() + parts_.patience.worker;
+    while (!parts_.inbox.hasWorkerEnded() && Clock::now() < deadline) {
+        std::this_thread::sleep_for(workerInterval);
+        parts_.thread.run([] {});
     }
 }
 

@@ -24,6 +24,9 @@ struct RecordingPatience {
     std::chrono::milliseconds progress{300'000};
     /// For rest, after writing was broken off.
     std::chrono::milliseconds rest{120'000};
+    /// For libburn's worker to go when the drive is idle: until then libburn refuses new jobs. It
+    /// takes half a second.
+    std::chrono::milliseconds worker{5'000};
 };
 
 /// One attempt to write a session on a drive that libburn holds: feeds the ring, follows libburn,
@@ -61,6 +64,7 @@ private:
     void feed(const std::stop_token &stop);
     void watch();
     void pause();
+    void awaitWorkersEnd();
     void breakOff(std::optional<Interruption> reason);
     bool isAllTaken() const;
     Outcome<> result();

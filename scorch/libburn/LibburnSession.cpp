@@ -96,10 +96,16 @@ int widthFlag(CdTextCode code) {
 } // namespace
 
 struct LibburnSession::Handles {
+    /// Freed in the opposite order: libburn counts its references, each of these holds one.
+    struct DiscLayout {
+        DiscHandle disc;
+        SessionHandle session;
+        std::vector<TrackHandle> tracks;
+    };
+
     burn::burn_drive_info *drives = nullptr; ///< An array of one, given free with the drive.
-    DiscHandle disc;
-    SessionHandle session;
-    std::vector<TrackHandle> tracks;
+    DiscLayout disc;
+    std::vector<DiscLayout> retired;
 
     burn::burn_drive *drive() const { return drives->drive; }
 
@@ -124,9 +130,6 @@ LibburnSession::~LibburnSession() {
         static_cast<void>(handles_.release()); // libburn's thread goes on using all of it.
         return;
     }
-    handles_->tracks.clear();
-    handles_->session.reset();
-    handles_->disc.reset();
     burn::burn_drive_release(handles_->drive(), 0);
     burn::burn_drive_info_free(handles_->drives);
 }
@@ -140,10 +143,10 @@ bool LibburnSession::Handles::addTrack(const SessionPlan &plan, std::int64_t sec
         makeSource(ring, static_cast<std::uint64_t>(sectors) * plan.bytesPerSector());
     if (source == nullptr ||
         burn::burn_track_set_source(track.get(), source.get()) != burn::BURN_SOURCE_OK ||
-        burn::burn_session_add_track(session.get(), track.get(), BURN_POS_END) == 0) {
+        burn::burn_session_add_track(disc.session.get(), track.get(), BURN_POS_END) == 0) {
         return false;
     }
-    tracks.push_back(std::move(track));
+    disc.tracks.push_back(std::move(track));
     return true;
 }
 
@@ -154,12 +157,13 @@ bool LibburnSession::Handles::attach(const CdText &text, int pack,
     };
     const int flag = widthFlag(text.code);
     std::string payload = terminated(text.disc.*member, text.code);
-    bool isAttached = burn::burn_session_set_cdtext(session.get(), 0, pack, nullptr, bytes(payload),
-                                                    static_cast<int>(payload.size()), flag) > 0;
-    for (std::size_t index = 0; index < tracks.size(); ++index) {
+    bool isAttached =
+        burn::burn_session_set_cdtext(disc.session.get(), 0, pack, nullptr, bytes(payload),
+                                      static_cast<int>(payload.size()), flag) > 0;
+    for (std::size_t index = 0; index < disc.tracks.size(); ++index) {
         payload = terminated(text.tracks[index].*member, text.code);
         isAttached = isAttached && burn::burn_track_set_cdtext(
-                                       tracks[index].get(), 0, pack, nullptr, bytes(payload),
+                                       disc.tracks[index].get(), 0, pack, nullptr, bytes(payload),
                                        static_cast<int>(payload.size()), flag) > 0;
     }
     return isAttached;
@@ -170,45 +174,57 @@ bool LibburnSession::attachText(const CdText &text) {
     std::array<int, 8> codes{isJapanese ? 0x80 : 0x00};
     std::array<int, 8> copyrights{};
     std::array<int, 8> languages{isJapanese ? japanese : english};
-    if (burn::burn_session_set_cdtext_par(handles_->session.get(), codes.data(), copyrights.data(),
-                                          languages.data(), 0) <= 0 ||
+    if (burn::burn_session_set_cdtext_par(handles_->disc.session.get(), codes.data(),
+                                          copyrights.data(), languages.data(), 0) <= 0 ||
         (text.hasTitles() && !handles_->attach(text, titlePack, &CdText::Texts::title)) ||
         (text.hasPerformers() &&
          !handles_->attach(text, performerPack, &CdText::Texts::performer))) {
         return false;
     }
-    const int packs = burn::burn_cdtext_from_session(handles_->session.get(), nullptr, nullptr, 1);
+    const int packs =
+        burn::burn_cdtext_from_session(handles_->disc.session.get(), nullptr, nullptr, 1);
     return packs > 0 && static_cast<std::size_t>(packs) <= mostPacks;
 }
 
-bool LibburnSession::write(const SessionPlan &plan, const std::optional<CdText> &text, int speed,
-                           const std::shared_ptr<SectorRing> &ring) {
-    handles_->tracks.clear();
-    handles_->disc.reset(burn::burn_disc_create());
-    handles_->session.reset(burn::burn_session_create());
-    burn::burn_disc_add_session(handles_->disc.get(), handles_->session.get(), BURN_POS_END);
+bool LibburnSession::layOut(const SessionPlan &plan, const std::optional<CdText> &text,
+                            const std::shared_ptr<SectorRing> &ring) {
+    // libburn's worker may still look at what it wrote before, although the drive is idle.
+    handles_->retired.push_back(std::move(handles_->disc));
+    handles_->disc.tracks.clear();
+    handles_->disc.disc.reset(burn::burn_disc_create());
+    handles_->disc.session.reset(burn::burn_session_create());
+    burn::burn_disc_add_session(handles_->disc.disc.get(), handles_->disc.session.get(),
+                                BURN_POS_END);
     for (const std::int64_t sectors : plan.sectors) {
         if (!handles_->addTrack(plan, sectors, ring)) {
             return false;
         }
     }
-    if (text && !attachText(*text)) {
-        return false;
+    return !text || attachText(*text);
+}
+
+LibburnSession::Start LibburnSession::write(const SessionPlan &plan,
+                                            const std::optional<CdText> &text, int speed,
+                                            const std::shared_ptr<SectorRing> &ring) {
+    if (!isIdle()) {
+        return Start::busy;
+    }
+    if (!layOut(plan, text, ring)) {
+        return Start::impossible;
     }
     const OptionsHandle options(burn::burn_write_opts_new(handles_->drive()));
     burn::burn_write_opts_set_multi(options.get(), 0); // The disc is closed with the session.
     burn::burn_write_opts_set_underrun_proof(options.get(), 1); // 0 where the drive has none.
-    if (burn::burn_write_opts_set_write_type(options.get(), burn::BURN_WRITE_SAO,
-                                             burn::BURN_BLOCK_SAO) == 0) {
-        return false;
-    }
     std::array<char, BURN_REASONS_LEN> reasons{};
-    if (burn::burn_precheck_write(options.get(), handles_->disc.get(), reasons.data(), 0) <= 0) {
-        return false;
+    if (burn::burn_write_opts_set_write_type(options.get(), burn::BURN_WRITE_SAO,
+                                             burn::BURN_BLOCK_SAO) == 0 ||
+        burn::burn_precheck_write(options.get(), handles_->disc.disc.get(), reasons.data(), 0) <=
+            0) {
+        return Start::impossible;
     }
     burn::burn_drive_set_speed(handles_->drive(), 0, speed);
-    burn::burn_disc_write(options.get(), handles_->disc.get());
-    return true;
+    burn::burn_disc_write(options.get(), handles_->disc.disc.get());
+    return Start::asked;
 }
 
 bool LibburnSession::isIdle() const {
@@ -225,7 +241,7 @@ bool LibburnSession::wroteWell() const {
 
 std::vector<TrackCounters> LibburnSession::counters() const {
     std::vector<TrackCounters> counters;
-    for (const TrackHandle &track : handles_->tracks) {
+    for (const TrackHandle &track : handles_->disc.tracks) {
         off_t read = 0;
         off_t written = 0;
         burn::burn_track_get_counters(track.get(), &read, &written);

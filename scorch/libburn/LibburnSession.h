@@ -32,11 +32,15 @@ public:
     LibburnSession(const LibburnSession &) = delete;
     LibburnSession &operator=(const LibburnSession &) = delete;
 
-    /// Starts to write what comes out of the ring. `speed` in kB/s, 0 is the fastest. False, and
-    /// nothing is written, where the plan or the text cannot be (libburn says why). True is no
-    /// promise: libburn may still refuse, with a message.
-    bool write(const SessionPlan &plan, const std::optional<CdText> &text, int speed,
-               const std::shared_ptr<SectorRing> &ring);
+    enum class Start {
+        asked,      ///< libburn was asked to write. It may still refuse, by a message only.
+        busy,       ///< Something is being written still.
+        impossible, ///< The plan or the text cannot be written; libburn says why.
+    };
+
+    /// Starts to write what comes out of the ring. `speed` in kB/s, 0 is the fastest.
+    Start write(const SessionPlan &plan, const std::optional<CdText> &text, int speed,
+                const std::shared_ptr<SectorRing> &ring);
 
     /// Nothing is being written (any more).
     bool isIdle() const;
@@ -55,6 +59,8 @@ private:
     struct Handles;
     explicit LibburnSession(std::unique_ptr<Handles> handles);
 
+    bool layOut(const SessionPlan &plan, const std::optional<CdText> &text,
+                const std::shared_ptr<SectorRing> &ring);
     bool attachText(const CdText &text);
 
     std::unique_ptr<Handles> handles_;

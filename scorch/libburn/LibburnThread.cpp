@@ -118,6 +118,7 @@ void LibburnThread::serve() {
             jobs_.pop_front();
             lock.unlock();
             if (isUsable) {
+                handOutMessages(); // What came before is not about this job.
                 (*job->work)();
                 handOutMessages();
             }

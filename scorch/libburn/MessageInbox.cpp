@@ -11,10 +11,11 @@ constexpr std::size_t mostErrors = 50;
 } // namespace
 
 void MessageInbox::add(const LibburnMessage &message, bool isShared) {
+    const std::lock_guard lock(mutex_);
+    hasWorkerEnded_ = hasWorkerEnded_ || isWorkerEnd(message);
     if (!message.isError) {
         return;
     }
-    const std::lock_guard lock(mutex_);
     if (errors_.size() < mostErrors) {
         errors_.push_back(message);
     }
@@ -31,10 +32,16 @@ std::vector<LibburnMessage> MessageInbox::errors() const {
     return errors_;
 }
 
+bool MessageInbox::hasWorkerEnded() const {
+    const std::lock_guard lock(mutex_);
+    return hasWorkerEnded_;
+}
+
 void MessageInbox::clear() {
     const std::lock_guard lock(mutex_);
     errors_.clear();
     hasFailure_ = false;
+    hasWorkerEnded_ = false;
 }
 
 } // namespace scorch

@@ -20,12 +20,15 @@ public:
     bool hasFailure() const;
     /// All errors so far, those that may be of another drive included, oldest first.
     std::vector<LibburnMessage> errors() const;
+    /// A worker of libburn's has gone; of another drive's, while there are several.
+    bool hasWorkerEnded() const;
     void clear();
 
 private:
     mutable std::mutex mutex_;
     std::vector<LibburnMessage> errors_; ///< The first few: a drive that is lost fails for ever.
     bool hasFailure_ = false;
+    bool hasWorkerEnded_ = false;
 };
 
 } // namespace scorch

@@ -79,6 +79,18 @@ TEST(MessageInbox, KeepsErrorsAndKnowsFailures) {
     EXPECT_TRUE(inbox.errors().empty());
 }
 
+TEST(MessageInbox, KnowsThatTheWorkerHasGone) {
+    MessageInbox inbox;
+    inbox.add(writeError, false);
+    EXPECT_FALSE(inbox.hasWorkerEnded());
+    LibburnMessage note = error(0x20178, "Write thread on drive 0 ended");
+    note.isError = false;
+    inbox.add(note, false);
+    EXPECT_TRUE(inbox.hasWorkerEnded());
+    inbox.clear();
+    EXPECT_FALSE(inbox.hasWorkerEnded());
+}
+
 TEST(MessageInbox, FailureThatMayBeOfAnotherDriveIsKeptButFailsNobody) {
     MessageInbox inbox;
     inbox.add(writeError, true);

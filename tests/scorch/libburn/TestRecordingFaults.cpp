@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-2.0-or-later
+// What a drive can do wrong, and requests to stop.
+#include "tests/scorch/libburn/RecordingTest.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+using namespace recorder;
+using namespace scorch;
+using namespace std::chrono_literals;
+using testing::HasSubstr;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+class RecordingFaults : public RecordingTest {
+protected:
+    /// The error of a recording on which this happens while the second track is written.
+    ScorchError failureWhen(const std::string &happens) {
+        scene_.control("slow 2000\n");
+        atStage_ = [this, happens](const std::string &stage) {
+            if (stage == "write 2") {
+                scene_.control("slow 2000\n" + happens + "\n");
+            }
+        };
+        FakeContent content(TrackKind::audio, {300, 1000}, ""); // A lead-in with texts is slow.
+        ScorchError failure = failureOf(content);
+        atStage_ = nullptr;
+        return failure;
+    }
+
+    /// A new disc takes a recording as if nothing had happened.
+    void expectNextDiscToWork() {
+        scene_.makeDisc(blankDisc(DiscKind::CdR), "next");
+        scene_.control("disc next\n");
+        stop_ = std::stop_source();
+        FakeContent content(TrackKind::audio, {300});
+        const auto recorded = record(content);
+        EXPECT_TRUE(recorded) << errorOf(recorded.error()).detail();
+        EXPECT_TRUE(scene_.disc("next").isFinal);
+    }
+};
+
+} // namespace
+
+TEST_F(RecordingFaults, WriteErrorNamesTheSectorAndTheSense) {
+    scene_.control("write-error 500\n");
+    FakeContent content(TrackKind::audio, {300, 400});
+    const ScorchError failure = failureOf(content);
+    EXPECT_EQ(failure.category(), ScorchErrorCode::writeFailed);
+    EXPECT_THAT(failure.localizedDescription(), HasSubstr("sector 4"));
+    EXPECT_THAT(failure.detail(), HasSubstr("3/0C/00"));
+}
+
+TEST_F(RecordingFaults, PowerCalibrationFailureIsTold) {
+    scene_.control("power-calibration\n");
+    FakeContent content(TrackKind::data, {500});
+    const ScorchError failure = failureOf(content);
+    EXPECT_EQ(failure.category(), ScorchErrorCode::writeFailed);
+    EXPECT_THAT(failure.detail(), HasSubstr("3/73/03"));
+    EXPECT_EQ(scene_.disc(), blankDisc(DiscKind::CdR));
+}
+
+TEST_F(RecordingFaults, LossOfStreamingIsTold) {
+    scene_.control("loss-of-streaming 400\n");
+    FakeContent content(TrackKind::data, {500});
+    EXPECT_THAT(failureOf(content).detail(), HasSubstr("3/0C/09"));
+}
+
+TEST_F(RecordingFaults, DriveThatVanishesIsGone) {
+    EXPECT_EQ(failureWhen("vanished").category(), ScorchErrorCode::driveGone);
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, DriveThatDoesNotAnswerAnyMoreIsSilent) {
+    EXPECT_EQ(failureWhen("silent 20").category(), ScorchErrorCode::driveSilent);
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, DriveThatNeverComesToRestIsGivenUp) {
+    patience_.rest = 100ms;
+    const auto begin = Clock::now();
+    EXPECT_EQ(failureWhen("silent 1000").category(), ScorchErrorCode::driveSilent);
+    EXPECT_LT(Clock::now() - begin, 6s);
+    scene_.control(""); // It answers again, and is given free when the program ends.
+}
+
+TEST_F(RecordingFaults, DriveThatTakesNothingIsGivenUp) {
+    patience_.progress = 300ms;
+    scene_.control("slow 20\n");
+    FakeContent content(TrackKind::data, {1000});
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::driveSilent);
+}
+
+TEST_F(RecordingFaults, TrayThatIsOpenedIsTold) {
+    const ScorchError failure = failureWhen("tray open");
+    EXPECT_EQ(failure.category(), ScorchErrorCode::noDisc);
+    EXPECT_THAT(failure.detail(), HasSubstr("2/3A/02"));
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, DriveThatIsHeldIsBusyAtOnce) {
+    scene_.control("busy\n");
+    FakeContent content(TrackKind::audio, {300});
+    const auto begin = Clock::now();
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::driveBusy);
+    EXPECT_LT(Clock::now() - begin, 1s);
+}
+
+TEST_F(RecordingFaults, DriveThatMayNotBeOpenedIsTold) {
+    scene_.control("no-permission\n");
+    FakeContent content(TrackKind::audio, {300});
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::driveNotAllowed);
+}
+
+TEST_F(RecordingFaults, DiscThatIsNoBlankCdIsRefused) {
+    FakeContent content(TrackKind::data, {300});
+    ASSERT_TRUE(record(content));
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::discNotBlank);
+    scene_.control("disc none\n");
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::noDisc);
+}
+
+TEST_F(RecordingFaults, ContentThatDoesNotFitIsRefusedBeforeAnythingIsWritten) {
+    Disc small = blankDisc(DiscKind::CdR);
+    small.capacity = 699;
+    insert(small);
+    FakeContent content(TrackKind::audio, {300, 400});
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::doesNotFit);
+    EXPECT_EQ(scene_.disc(), small);
+}
+
+TEST_F(RecordingFaults, HundredTracksAreRefusedBeforeAnythingIsWritten) {
+    FakeContent content(TrackKind::audio, std::vector<std::int64_t>(100, 300));
+    EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::tooManyTracks);
+    EXPECT_EQ(scene_.disc(), blankDisc(DiscKind::CdR));
+}
+
+TEST_F(RecordingFaults, StopInTheMiddleCancelsAndTheNextDiscWorks) {
+    scene_.control("slow 2000\n");
+    atStage_ = [this](const std::string &stage) {
+        if (stage == "write 2") {
+            stop_.request_stop();
+        }
+    };
+    FakeContent content(TrackKind::audio, {300, 60'000}, "");
+    const auto recorded = record(content);
+    ASSERT_FALSE(recorded);
+    EXPECT_TRUE(isCancelled(recorded.error()));
+    EXPECT_FALSE(recording_->isComplete());
+    EXPECT_TRUE(scene_.disc().hasOpenSession());
+    atStage_ = nullptr;
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, StopUnblocksASourceThatWaits) {
+    FakeContent content(TrackKind::audio, {300, 60'000}, "");
+    const auto token = stop_.get_token();
+    Clock::time_point asked;
+    content.beforeRead = [&](std::int64_t sector) -> Outcome<> {
+        if (sector < 40'000) { // Behind what the ring holds, so while the drive writes.
+            return {};
+        }
+        asked = Clock::now();
+        stop_.request_stop();
+        return Interruption(Cancelled{}); // As a source does that notices it.
+    };
+    const auto recorded = record(content);
+    ASSERT_FALSE(recorded);
+    EXPECT_TRUE(isCancelled(recorded.error()));
+    EXPECT_LT(Clock::now() - asked, 5s) << "the drive is brought to rest, no more";
+}
+
+TEST_F(RecordingFaults, StopBeforeTheFirstSectorLeavesTheDiscBlank) {
+    FakeContent content(TrackKind::audio, {300});
+    content.beforeRead = [this](std::int64_t /*sector*/) -> Outcome<> {
+        stop_.request_stop();
+        return {};
+    };
+    const auto recorded = record(content);
+    ASSERT_FALSE(recorded);
+    EXPECT_TRUE(isCancelled(recorded.error()));
+    EXPECT_EQ(scene_.disc(), blankDisc(DiscKind::CdR));
+}
+
+TEST_F(RecordingFaults, StopBehindTheLastSectorComesTooLate) {
+    atStage_ = [this](const std::string &stage) {
+        if (stage == "finishing") {
+            stop_.request_stop();
+        }
+    };
+    FakeContent content(TrackKind::audio, {300});
+    EXPECT_TRUE(record(content));
+    EXPECT_TRUE(recording_->isComplete());
+    EXPECT_TRUE(scene_.disc().isFinal);
+}
