@@ -39,10 +39,10 @@ int runShards(int count, char **arguments, int shards, const std::function<void(
     std::string brief = "--gtest_brief=1";
     if (count == 1) {
         all.push_back(brief.data());
-        setenv("GTEST_TOTAL_SHARDS", std::to_string(shards).c_str(), 1);
     } else {
         shards = 1;
     }
+    setenv("GTEST_TOTAL_SHARDS", std::to_string(shards).c_str(), 1);
     std::vector<pid_t> children;
     for (int shard = 0; shard < shards; ++shard) {
         setenv("GTEST_SHARD_INDEX", std::to_string(shard).c_str(), 1);
