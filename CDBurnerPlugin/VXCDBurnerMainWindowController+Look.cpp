@@ -2,6 +2,7 @@
 // The window's icon and sizes, and what is drawn above what.
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 
+#include "CDBurnerPlugin/AmountLabel.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/MainWindow.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
@@ -30,7 +31,7 @@ void keepRoomFor(QLabel *label, const QStringList &formats) {
         const QString text = filledFormat(format, {longestAmount});
         width = std::max(width, label->fontMetrics().horizontalAdvance(text));
     }
-    label->setMinimumWidth(width);
+    label->setMinimumWidth(width + 2 * AmountLabel::sideMargin);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     label->setTextFormat(Qt::PlainText);
 }
