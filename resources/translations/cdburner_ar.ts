@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>لا يمكن استخدام المحرك «&#x2068;%@&#x2069;» (&#x2068;%@&#x2069;).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>تعذرت قراءة المقطع %@، «&#x2068;%@&#x2069;»، من القرص بعد كتابته. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>تعذرت قراءة فهرس محتويات القرص بعد كتابته. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>تعذرت قراءة «&#x2068;%@&#x2069;» من القرص بعد كتابته. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>كُتب القرص الموجود في المحرك «&#x2068;%@&#x2069;»، لكنه ليس كما ينبغي أن يكون. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
+    </message>
 </context>
 </TS>

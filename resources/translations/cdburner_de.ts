@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>Das Laufwerk „%@“ ist nicht benutzbar (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Titel %@, „%@“, lässt sich nicht von der CD zurücklesen. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Das Inhaltsverzeichnis lässt sich nicht von der CD zurücklesen. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>„%@“ lässt sich nicht von der CD zurücklesen. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Die CD im Laufwerk „%@“ wurde beschrieben, ist aber nicht so, wie sie sein sollte. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
+    </message>
 </context>
 </TS>

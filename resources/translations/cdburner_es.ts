@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>No se puede usar la unidad «%@» (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>La pista %@, «%@», no se puede volver a leer del CD. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>La tabla de contenidos del CD no se puede volver a leer. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>«%@» no se puede volver a leer del CD. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>El CD de la unidad «%@» se ha grabado, pero no está como debería. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
+    </message>
 </context>
 </TS>

@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>Le lecteur «&#xa0;%@&#xa0;» ne peut pas être utilisé (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>La piste %@, «&#xa0;%@&#xa0;», ne peut pas être relue sur le CD. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>La table des matières du CD ne peut pas être relue. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>«&#xa0;%@&#xa0;» ne peut pas être relu sur le CD. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Le CD du lecteur «&#xa0;%@&#xa0;» a été gravé, mais il n’est pas tel qu’il devrait être. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
+    </message>
 </context>
 </TS>

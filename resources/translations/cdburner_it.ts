@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>Impossibile usare l’unità «%@» (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>La traccia %@, «%@», non può essere riletta dal CD. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>L’indice del CD non può essere riletto. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>«%@» non può essere riletto dal CD. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Il CD nell’unità «%@» è stato scritto, ma non è come dovrebbe essere. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
+    </message>
 </context>
 </TS>

@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>ドライブ「%@」は使用できません (%@)。</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>トラック %@「%@」をディスクから読み戻せません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>ディスクの目次を読み戻せません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>「%@」をディスクから読み戻せません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>ドライブ「%@」のディスクは書き込まれましたが、正しい状態になっていません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
+    </message>
 </context>
 </TS>

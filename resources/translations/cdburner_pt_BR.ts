@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>Não é possível usar a unidade “%@” (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>A faixa %@, “%@”, não pode ser lida de volta do CD. Não confie neste CD: grave a lista novamente em outro.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>O índice do CD não pode ser lido de volta. Não confie neste CD: grave a lista novamente em outro.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>“%@” não pode ser lido de volta do CD. Não confie neste CD: grave a lista novamente em outro.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>O CD na unidade “%@” foi gravado, mas não está como deveria. Não confie neste CD: grave a lista novamente em outro.</translation>
+    </message>
 </context>
 </TS>

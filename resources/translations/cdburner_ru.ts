@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>Невозможно использовать привод «%@» (%@).</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Дорожку %@, «%@», не удаётся прочитать с записанного диска. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Оглавление записанного диска не удаётся прочитать. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Файл «%@» не удаётся прочитать с записанного диска. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>Диск в приводе «%@» записан, но не так, как должен быть. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
+    </message>
 </context>
 </TS>

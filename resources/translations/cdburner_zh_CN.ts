@@ -680,5 +680,21 @@
         <source>The drive “%@” cannot be used (%@).</source>
         <translation>无法使用光驱“%@”(%@)。</translation>
     </message>
+    <message>
+        <source>Track %@, “%@”, cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>无法从光盘读回音轨 %@“%@”。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
+    </message>
+    <message>
+        <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>无法读回光盘的目录。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
+    </message>
+    <message>
+        <source>“%@” cannot be read back from the disc. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>无法从光盘读回“%@”。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
+    </message>
+    <message>
+        <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
+        <translation>驱动器“%@”中的光盘已写入，但结果不正确。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
+    </message>
 </context>
 </TS>

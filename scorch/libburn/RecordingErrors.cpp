@@ -104,7 +104,7 @@ ScorchError writingError(const std::vector<LibburnMessage> &messages, DriveError
 ScorchError wrongDiscError(const std::string &driveName, const std::string &detail) {
     return {Code::writeFailed,
             localized("The disc in the drive “%@” was written, but it is not as it should be. Do "
-                      "not rely on it: burn the list again on another one.",
+                      "not rely on this disc: burn the list again on another one.",
                       {driveName}),
             detail};
 }
