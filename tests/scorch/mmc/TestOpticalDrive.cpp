@@ -225,8 +225,10 @@ TEST_F(OpticalDriveTest, NothingTouchesTheDriveWhileARecordingHoldsItAndItIsChec
     scene().makeDisc(usedCd(DiscKind::CdR, true), "burned");
     scene().control("disc burned #1\n");
     EXPECT_EQ(recorder().commands().size(), commands);
+    hold();
     recording->reset();
     EXPECT_TRUE(drive->state().checking);
+    release();
     EXPECT_TRUE(waitUntilChecked(*drive));
     EXPECT_FALSE(drive->state().disc.blank);
     EXPECT_TRUE(drive->state().disc.isCd);

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <mutex>
 #include <thread>
 
 using namespace scorch;
@@ -47,6 +48,7 @@ protected:
     OpticalDriveSourceTest() {
         OpticalDriveServices services;
         services.open = [this](const std::filesystem::path &) {
+            const std::lock_guard passing(gate_);
             return recorder_.open();
         };
         services.glanceInterval = std::chrono::milliseconds(1);
@@ -71,6 +73,7 @@ protected:
     }
 
     RecorderDrive recorder_;
+    std::mutex gate_; ///< Locked by a test that wants drives to wait.
     FakeWatcher::Shared watcher_;
     std::atomic<int> watchers_ = 0;
     TestMainQueue queue_;
@@ -127,8 +130,11 @@ TEST_F(OpticalDriveSourceTest, AHandleBeginsTheCheckAndIsToldOfItsEnd) {
     recorder_.scene.makeDisc(blankCd());
     watcher_.found = {device("/dev/sr0")};
     DeviceLog log;
+    std::unique_lock gate(gate_);
     const auto handle = registry_->makeHandle("ACME DRW-24");
     handle->setDelegate(&log);
+    EXPECT_TRUE(handle->isCheckingDisc());
+    gate.unlock();
     EXPECT_TRUE(waitFor([&] { return !handle->isCheckingDisc() && handle->isDiscBlank(); }));
     EXPECT_TRUE(waitFor([&] { return log.words == std::vector<std::string>{"status"}; }));
     EXPECT_EQ(handle->freeTimeOfDisc(), 359'849);
@@ -157,6 +163,7 @@ TEST_F(OpticalDriveSourceTest, ADriveIsLeftAloneWhenItsLastHandleHasGone) {
     EXPECT_TRUE(waitFor([&] { return recorder_.openings() > before; })) << "one still looks";
     const std::shared_ptr<Drive> drive = registry_->find("ACME DRW-24");
     second.reset();
+    const std::lock_guard gate(gate_);
     drive->setWatched(true); // Begins anew, which it does only if nobody has been looking.
     EXPECT_TRUE(drive->state().checking);
     drive->setWatched(false);
@@ -168,9 +175,11 @@ TEST_F(OpticalDriveSourceTest, AMediumThatChangesIsPassedOnToItsDrive) {
     EXPECT_TRUE(waitFor([&] { return !handle->isCheckingDisc(); }));
     recorder_.scene.makeDisc(blankCd(), "other");
     recorder_.scene.control("disc other #1\n");
+    std::unique_lock gate(gate_);
     watcher_.observer.mediumChanged("/dev/sr7", MediumNews::changed);
     watcher_.observer.mediumChanged("/dev/sr0", MediumNews::changed);
     EXPECT_TRUE(handle->isCheckingDisc());
+    gate.unlock();
     EXPECT_TRUE(waitFor([&] { return handle->isDiscBlank(); }));
 }
 
@@ -185,8 +194,10 @@ TEST_F(OpticalDriveSourceTest, TheEndStopsADriveInTheMiddleOfACheck) {
     recorder_.scene.makeDisc(blankCd(), "other");
     recorder_.scene.control("becoming-ready 1000000\ndisc other #1\n");
     watcher_.found = {device("/dev/sr0")};
+    std::unique_lock gate(gate_);
     const auto handle = registry_->makeHandle("ACME DRW-24");
     EXPECT_TRUE(handle->isCheckingDisc());
+    gate.unlock();
     const auto begun = std::chrono::steady_clock::now();
     registry_->shutDown();
     EXPECT_LT(std::chrono::steady_clock::now() - begun, std::chrono::seconds(5));
