@@ -2,6 +2,7 @@
 #include "CDBurnerPlugin/Localization.h"
 
 #include "CDBurnerPlugin/ResourceLocator.h"
+#include "host/TranslationChoice.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -79,23 +80,6 @@ Qt::LayoutDirection localizationDirection() {
     const std::shared_ptr<const QTranslator> &translator = current().translator;
     return translator != nullptr ? QLocale(translator->language()).textDirection()
                                  : Qt::LeftToRight;
-}
-
-QString translationFor(const QStringList &languages, const QStringList &translations) {
-    for (const QString &language : languages) {
-        const QLocale wanted(language);
-        if (wanted.language() == QLocale::English) {
-            return {}; // What the keys are in: nothing that is liked less takes its place.
-        }
-        for (const QString &translation : translations) {
-            const QLocale offered(translation);
-            if (offered.language() == wanted.language() && offered.script() == wanted.script() &&
-                wanted.language() != QLocale::C) {
-                return translation;
-            }
-        }
-    }
-    return {};
 }
 
 bool loadLocalization(const QLocale &locale) {

@@ -28,12 +28,6 @@ void setLocalizationTranslator(std::shared_ptr<const QTranslator> translator);
 /// language has. Any thread.
 Qt::LayoutDirection localizationDirection();
 
-/// The one of the translations ("de", "pt_BR") for the first of the user's languages, best liked
-/// first, that there is a text for; empty where that is English, or none. Texts in another
-/// territory's kind of a language are taken rather than the user's next language, those in another
-/// script are not.
-QString translationFor(const QStringList &languages, const QStringList &translations);
-
 /// Takes the translation that the tool carries for the locale, or English where there is none.
 /// Called once, when the tool is loaded. True if there is one.
 bool loadLocalization(const QLocale &locale);

@@ -3,6 +3,7 @@
 
 #include "crate/HostContext.h"
 #include "crate/Settings.h"
+#include "crate/Translation.h"
 
 #include <QCoreApplication>
 
@@ -56,8 +57,8 @@ void Crate::openFirstTool(const CommandLine &commandLine) {
     if (!index) {
         window_.showMessage(
             commandLine.toolName
-                ? MainWindow::tr("There is no tool named “%1”.").arg(*commandLine.toolName)
-                : MainWindow::tr("There is no tool that the files could be passed to."));
+                ? translated("There is no tool named “%1”.").arg(*commandLine.toolName)
+                : translated("There is no tool that the files could be passed to."));
     } else if (commandLine.files.empty()) {
         window_.openTool(*index);
     } else {

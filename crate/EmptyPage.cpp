@@ -2,6 +2,7 @@
 #include "crate/EmptyPage.h"
 
 #include "crate/Pictures.h"
+#include "crate/Translation.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -15,10 +16,6 @@ namespace {
 
 constexpr int pictureSize = 96;
 constexpr int textWidth = 420;
-
-QString translated(const char *text) {
-    return QCoreApplication::translate("EmptyPage", text);
-}
 
 QLabel *centredLabel(QWidget *parent, const char *name) {
     auto *label = new QLabel(parent);
@@ -56,7 +53,7 @@ EmptyPage::EmptyPage(QWidget *parent)
     : QWidget(parent),
       heading_(centredLabel(this, "emptyHeading")),
       text_(centredLabel(this, "emptyText")),
-      choose_(new QPushButton(tr("Choose Folder…"), this)) {
+      choose_(new QPushButton(translated("Choose Folder…"), this)) {
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     auto *image = new QLabel(this);

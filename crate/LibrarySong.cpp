@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/LibrarySong.h"
 
+#include "crate/Translation.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -17,14 +19,13 @@ struct Unit {
 };
 
 constexpr std::array<Unit, 3> units{{
-    {QT_TRANSLATE_NOOP("SongLength", "%1 day"), QT_TRANSLATE_NOOP("SongLength", "%1 days"), 1440},
-    {QT_TRANSLATE_NOOP("SongLength", "%1 hour"), QT_TRANSLATE_NOOP("SongLength", "%1 hours"), 60},
-    {QT_TRANSLATE_NOOP("SongLength", "%1 minute"), QT_TRANSLATE_NOOP("SongLength", "%1 minutes"),
-     1},
+    {QT_TRANSLATE_NOOP("Crate", "1 day"), QT_TRANSLATE_N_NOOP("Crate", "%Ln days"), 1440},
+    {QT_TRANSLATE_NOOP("Crate", "1 hour"), QT_TRANSLATE_N_NOOP("Crate", "%Ln hours"), 60},
+    {QT_TRANSLATE_NOOP("Crate", "1 minute"), QT_TRANSLATE_N_NOOP("Crate", "%Ln minutes"), 1},
 }};
 
 QString unitText(const Unit &unit, long long count) {
-    return QCoreApplication::translate("SongLength", count == 1 ? unit.one : unit.many).arg(count);
+    return count == 1 ? translated(unit.one) : translatedCount(unit.many, static_cast<int>(count));
 }
 
 } // namespace
@@ -62,7 +63,7 @@ QString totalLengthText(std::chrono::milliseconds length) {
         const Unit &smaller = units[index + 1];
         const long long rest = minutes % unit.minutes / smaller.minutes;
         const QString text = unitText(unit, minutes / unit.minutes);
-        return rest == 0 ? text : text + QLatin1Char(' ') + unitText(smaller, rest);
+        return rest == 0 ? text : translated("%1 %2").arg(text, unitText(smaller, rest));
     }
     return unitText(units.back(), minutes);
 }

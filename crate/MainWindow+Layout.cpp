@@ -4,6 +4,7 @@
 #include "crate/EmptyPage.h"
 #include "crate/MessageBar.h"
 #include "crate/SongListView.h"
+#include "crate/Translation.h"
 #include "crate/UtilitiesBar.h"
 
 #include <QAction>
@@ -74,7 +75,7 @@ QWidget *MainWindow::buildFooter() {
     summary_->setObjectName(QStringLiteral("summary"));
     busy_ = new QProgressBar(footer);
     busy_->setObjectName(QStringLiteral("scanning"));
-    busy_->setAccessibleName(tr("Looking for songs"));
+    busy_->setAccessibleName(translated("Looking for songs"));
     busy_->setRange(0, 0);
     busy_->setTextVisible(false);
     busy_->setFixedSize(busyWidth, busyHeight);
@@ -97,9 +98,11 @@ void MainWindow::buildSendActions() {
         if (entry.tool == nullptr) {
             continue;
         }
-        auto *action = new QAction(toolIcon(entry), tr("Send to %1").arg(toolTitle(entry)), this);
+        auto *action =
+            new QAction(toolIcon(entry), translated("Send to %1").arg(toolTitle(entry)), this);
         action->setObjectName(QStringLiteral("send:") + entry.id);
-        action->setToolTip(tr("Add the selected songs to the list of %1").arg(toolTitle(entry)));
+        action->setToolTip(
+            translated("Add the selected songs to the list of %1").arg(toolTitle(entry)));
         action->setEnabled(false);
         connect(action, &QAction::triggered, this,
                 [this, index] { sendToTool(index, list_->selectedSongs()); });
@@ -115,12 +118,12 @@ void MainWindow::buildToolBar() {
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     search_ = new QLineEdit(bar);
     search_->setObjectName(QStringLiteral("search"));
-    search_->setPlaceholderText(tr("Search"));
-    search_->setAccessibleName(tr("Search songs"));
+    search_->setPlaceholderText(translated("Search"));
+    search_->setAccessibleName(translated("Search songs"));
     search_->setClearButtonEnabled(true);
     // Its button has only a picture.
     for (auto *clear : search_->findChildren<QToolButton *>()) {
-        clear->setAccessibleName(tr("Clear the search"));
+        clear->setAccessibleName(translated("Clear the search"));
     }
     search_->setFixedWidth(searchWidth);
     bar->addWidget(space);
@@ -131,24 +134,25 @@ void MainWindow::buildToolBar() {
 }
 
 void MainWindow::buildMenus() {
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Choose Music Folder…"), QKeySequence::Open, this,
+    QMenu *file = menuBar()->addMenu(translated("&File"));
+    file->addAction(translated("&Choose Music Folder…"), QKeySequence::Open, this,
                     &MainWindow::chooseFolder);
-    file->addAction(tr("&Look for Songs Again"), QKeySequence::Refresh, this, &MainWindow::scan);
+    file->addAction(translated("&Look for Songs Again"), QKeySequence::Refresh, this,
+                    &MainWindow::scan);
     file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+    file->addAction(translated("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 
-    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    selectAll_ = edit->addAction(tr("Select &All"), list_, &QAbstractItemView::selectAll);
-    edit->addAction(tr("&Find Songs"), QKeySequence::Find, this, [this] {
+    QMenu *edit = menuBar()->addMenu(translated("&Edit"));
+    selectAll_ = edit->addAction(translated("Select &All"), list_, &QAbstractItemView::selectAll);
+    edit->addAction(translated("&Find Songs"), QKeySequence::Find, this, [this] {
         search_->setFocus();
         search_->selectAll();
     });
 
-    QMenu *songs = menuBar()->addMenu(tr("&Songs"));
+    QMenu *songs = menuBar()->addMenu(translated("&Songs"));
     songs->addActions(sendActions_);
 
-    QMenu *tools = menuBar()->addMenu(tr("&Tools"));
+    QMenu *tools = menuBar()->addMenu(translated("&Tools"));
     for (std::size_t index = 0; index < utilities_.entries().size(); ++index) {
         const ToolEntry &entry = utilities_.entries()[index];
         QAction *action = tools->addAction(toolIcon(entry), toolTitle(entry));
@@ -157,13 +161,13 @@ void MainWindow::buildMenus() {
         } else {
             // The reason is for those, too, who do not use a mouse.
             connect(action, &QAction::triggered, this, [this, &entry] {
-                showMessage(tr("%1: %2").arg(toolTitle(entry), entry.error));
+                showMessage(translated("%1: %2").arg(toolTitle(entry), entry.error));
             });
         }
     }
 
-    QMenu *help = menuBar()->addMenu(tr("&Help"));
-    help->addAction(tr("&About Crate"), this, &MainWindow::showAbout);
+    QMenu *help = menuBar()->addMenu(translated("&Help"));
+    help->addAction(translated("&About Crate"), this, &MainWindow::showAbout);
 }
 
 } // namespace crate

@@ -7,6 +7,7 @@
 #include "crate/Settings.h"
 #include "crate/SongListView.h"
 #include "crate/SongModel.h"
+#include "crate/Translation.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -15,7 +16,6 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -31,7 +31,7 @@ MainWindow::MainWindow(Utilities &utilities, std::filesystem::path musicFolder)
       model_(new SongModel(this)),
       scanner_(new SongScanner(this)) {
     setObjectName(QStringLiteral("crateWindow"));
-    setWindowTitle(tr("Crate"));
+    setWindowTitle(translated("Crate"));
     setWindowIcon(picture("crate"));
     buildContent();
     buildSendActions();
@@ -56,7 +56,7 @@ void MainWindow::openTool(std::size_t index) {
 
 void MainWindow::sendToTool(std::size_t index, const SongList &files) {
     if (!utilities_.openWith(index, files)) {
-        showMessage(tr("The tool did not take the songs."));
+        showMessage(translated("The tool did not take the songs."));
     }
 }
 
@@ -109,7 +109,7 @@ void MainWindow::scan() {
 }
 
 void MainWindow::chooseFolder() {
-    auto *dialog = new QFileDialog(this, tr("Choose the Music Folder"),
+    auto *dialog = new QFileDialog(this, translated("Choose the Music Folder"),
                                    QFile::decodeName(musicFolder_.c_str()));
     dialog->setObjectName(QStringLiteral("folderDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -138,11 +138,12 @@ void MainWindow::showContextMenu(QPoint position) {
 void MainWindow::showAbout() {
     auto *box = new QMessageBox(this);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(tr("About Crate"));
+    box->setWindowTitle(translated("About Crate"));
     box->setIconPixmap(picture("crate").pixmap({64, 64}, devicePixelRatioF()));
-    box->setText(tr("Crate %1").arg(QStringLiteral(CDBURNER_VERSION)));
-    box->setInformativeText(tr("A music library with tools.\nFree software under the GNU General "
-                               "Public License, version 2 or later."));
+    box->setText(translated("Crate %1").arg(QStringLiteral(CDBURNER_VERSION)));
+    box->setInformativeText(
+        translated("A music library with tools.\nFree software under the GNU General "
+                   "Public License, version 2 or later."));
     box->open();
 }
 
@@ -167,9 +168,8 @@ void MainWindow::updateContent() {
 void MainWindow::updateSummary() {
     const int selected = list_->selectedCount();
     if (selected > 0) {
-        const QString number = QLocale().toString(selected);
-        summary_->setText(selected == 1 ? tr("1 song selected")
-                                        : tr("%1 songs selected").arg(number));
+        summary_->setText(selected == 1 ? translated("1 song selected")
+                                        : translatedCount("%Ln songs selected", selected));
         return;
     }
     const int count = model_->rowCount();
@@ -177,9 +177,8 @@ void MainWindow::updateSummary() {
         summary_->clear();
         return;
     }
-    const QString songs = count == 1 ? tr("1 song") : tr("%1 songs").arg(QLocale().toString(count));
-    summary_->setText(
-        tr("%1, %2", "songs, length").arg(songs, totalLengthText(model_->visibleLength())));
+    const QString songs = count == 1 ? translated("1 song") : translatedCount("%Ln songs", count);
+    summary_->setText(translated("%1, %2").arg(songs, totalLengthText(model_->visibleLength())));
 }
 
 void MainWindow::updateSendActions() {

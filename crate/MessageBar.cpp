@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/MessageBar.h"
 
+#include "crate/Translation.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHBoxLayout>
@@ -39,7 +41,7 @@ MessageBar::MessageBar(QWidget *parent) : QFrame(parent), text_(new QLabel(this)
     dismiss->setObjectName(QStringLiteral("messageClose"));
     dismiss->setAutoRaise(true);
     dismiss->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton, nullptr, this));
-    dismiss->setToolTip(tr("Close this message"));
+    dismiss->setToolTip(translated("Close this message"));
     dismiss->setAccessibleName(dismiss->toolTip());
     connect(dismiss, &QToolButton::clicked, this, &QWidget::hide);
 

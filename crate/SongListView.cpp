@@ -2,6 +2,7 @@
 #include "crate/SongListView.h"
 
 #include "crate/SongModel.h"
+#include "crate/Translation.h"
 
 #include <QHeaderView>
 #include <QStyledItemDelegate>
@@ -34,7 +35,7 @@ public:
 
 SongListView::SongListView(SongModel *model, QWidget *parent) : QTreeView(parent), songs_(model) {
     setObjectName(QStringLiteral("songList"));
-    setAccessibleName(tr("Songs"));
+    setAccessibleName(translated("Songs"));
     setModel(model);
     setItemDelegate(new SongDelegate(this));
     setRootIsDecorated(false);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/SongModel.h"
 
+#include "crate/Translation.h"
+
 #include <QFile>
 #include <QMimeData>
 
@@ -124,15 +126,15 @@ QVariant SongModel::headerData(int section, Qt::Orientation orientation, int rol
     }
     switch (column) {
     case SongColumn::title:
-        return tr("Title");
+        return translated("Title");
     case SongColumn::artist:
-        return tr("Artist");
+        return translated("Artist");
     case SongColumn::album:
-        return tr("Album");
+        return translated("Album");
     case SongColumn::track:
-        return tr("Track");
+        return translated("Track");
     case SongColumn::length:
-        return tr("Length");
+        return translated("Length");
     }
     return {};
 }

@@ -2,6 +2,7 @@
 #include "crate/ToolLoader.h"
 
 #include "crate/Log.h"
+#include "crate/Translation.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,10 +16,6 @@
 namespace crate {
 
 namespace {
-
-QString translated(const char *text) {
-    return QCoreApplication::translate("ToolLoader", text);
-}
 
 std::vector<std::filesystem::path> librariesIn(const std::filesystem::path &folder) {
     std::vector<std::filesystem::path> files;

@@ -2,6 +2,7 @@
 #include "crate/UtilitiesBar.h"
 
 #include "crate/Pictures.h"
+#include "crate/Translation.h"
 
 #include <QAction>
 #include <QFile>
@@ -27,7 +28,7 @@ QIcon toolIcon(const ToolEntry &entry) {
 
 UtilitiesBar::UtilitiesBar(const Utilities &utilities, QWidget *parent) : QToolBar(parent) {
     setObjectName(QStringLiteral("utilitiesBar"));
-    setWindowTitle(tr("Tools"));
+    setWindowTitle(translated("Tools"));
     setMovable(false);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setIconSize({toolIconSize, toolIconSize});
@@ -40,7 +41,7 @@ UtilitiesBar::UtilitiesBar(const Utilities &utilities, QWidget *parent) : QToolB
             action->setToolTip(entry.error);
             continue;
         }
-        action->setToolTip(tr("Open %1").arg(toolTitle(entry)));
+        action->setToolTip(translated("Open %1").arg(toolTitle(entry)));
         connect(action, &QAction::triggered, this, [this, index] { emit toolChosen(index); });
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "crate/CommandLine.h"
 #include "crate/Crate.h"
+#include "crate/Translation.h"
 
 #include <QApplication>
 
@@ -31,6 +32,7 @@ int run(const crate::CommandLine &commandLine, char *name) {
     QApplication::setApplicationName(QStringLiteral("crate"));
     QApplication::setApplicationVersion(QStringLiteral(CDBURNER_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("crate"));
+    crate::speakLanguageOf(QLocale());
     std::string error;
     const auto program =
         crate::Crate::create(commandLine, crate::toolFolderFor(programFolder()), error);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Which of its languages the tool speaks.
 #include "CDBurnerPlugin/Localization.h"
+#include "host/TranslationChoice.h"
 #include "tests/CDBurnerPlugin/translations/Languages.h"
 
 #include <gtest/gtest.h>
