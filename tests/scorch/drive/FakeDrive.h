@@ -39,12 +39,14 @@ public:
 
     bool isRecording() const;
     int ejections() const { return ejections_; }
+    bool isWatched() const { return watched_; }
     std::size_t bytesRecorded() const { return bytesRecorded_; }
     std::string volumeName() const { return volumeName_; }
 
     const std::string &name() const override { return name_; }
     scorch::DriveState state() const override;
     void setStateObserver(std::function<void()> changed) override;
+    void setWatched(bool watched) override { watched_ = watched; }
     void eject() override { ++ejections_; }
     scorch::Outcome<std::unique_ptr<scorch::DiscRecording>>
     beginRecording(const scorch::DiscContent &content, const std::stop_token &stop) override;
@@ -70,6 +72,7 @@ private:
     std::optional<scorch::SectorRange> readable_;
     bool isCompleteWhenRecorded_ = false;
     int ejections_ = 0;
+    bool watched_ = false;
     std::size_t bytesRecorded_ = 0;
     std::string volumeName_;
 };

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <future>
 #include <thread>
 
@@ -19,15 +20,15 @@ public:
     explicit FakeSource(std::vector<std::shared_ptr<Drive>> drives) : drives_(std::move(drives)) {}
 
     std::vector<std::shared_ptr<Drive>> search(Observer told) override {
-        ++searches;
         observer = std::move(told);
+        ++searches;
         if (gate.valid()) {
             gate.wait();
         }
         return drives_;
     }
 
-    int searches = 0;
+    std::atomic<int> searches = 0;
     Observer observer;
     std::shared_future<void> gate;
 
@@ -236,6 +237,42 @@ TEST_F(DriveRegistryTest, ADriveThatComesBackIsTheHandlesAgain) {
     EXPECT_FALSE(handle->isDiscInDevice());
     source_->observer.appeared(first_);
     EXPECT_TRUE(handle->isDiscInDevice());
+}
+
+TEST_F(DriveRegistryTest, ADriveIsWatchedFromItsFirstHandleToItsLast) {
+    registry_->names();
+    EXPECT_FALSE(first_->isWatched());
+    auto one = registry_->makeHandle("First");
+    auto other = registry_->makeHandle("First");
+    EXPECT_TRUE(first_->isWatched());
+    EXPECT_FALSE(second_->isWatched());
+    one.reset();
+    EXPECT_TRUE(first_->isWatched());
+    other.reset();
+    EXPECT_FALSE(first_->isWatched());
+}
+
+TEST_F(DriveRegistryTest, ADriveThatComesForAHandleThatWaitsIsWatched) {
+    const auto third = std::make_shared<FakeDrive>("Third");
+    const auto handle = registry_->makeHandle("Third");
+    registry_->names();
+    source_->observer.appeared(third);
+    queue_.runPending();
+    EXPECT_TRUE(third->isWatched());
+}
+
+TEST_F(DriveRegistryTest, ADriveThatComesDuringTheSearchIsToldAfterIt) {
+    std::promise<void> found;
+    source_->gate = found.get_future().share();
+    auto search = std::async(std::launch::async, [this] { return registry_->names(); });
+    while (source_->searches == 0) {
+        std::this_thread::yield();
+    }
+    auto going = std::async(std::launch::async, [this] { source_->observer.disappeared("First"); });
+    found.set_value();
+    going.get();
+    search.get();
+    EXPECT_THAT(registry_->names(), ElementsAre("Second"));
 }
 
 TEST_F(DriveRegistryTest, ChangesDuringABurnAreToldOnceAfterIt) {
