@@ -79,7 +79,7 @@ bool VolumeNameEdit::event(QEvent *event) {
     if (event->type() == QEvent::WindowActivate) {
         // A line edit would give up its selection here if the focus has gone elsewhere again, as
         // it does where the sheet comes up with the window: the name is to be typed over still.
-        return QWidget::event(event);
+        return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call): as said
     }
     const bool isHandled = QLineEdit::event(event);
     applyReplacement();
