@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+
 namespace {
 
 using testing::Contains;
@@ -128,6 +130,20 @@ TEST_F(AccessibleWindow, HostsControlsHaveTheirRolesAndNames) {
     waitUntil("the search",
               [&window] { return window.find(ATSPI_ROLE_TEXT, "Search songs").text() == "a"; });
     EXPECT_THAT(nameless(window), IsEmpty());
+}
+
+TEST_F(AccessibleWindow, NamesAreInThePersonsLanguageInBothWindows) {
+    setenv("LC_ALL", "de_DE.UTF-8", 1); // NOLINT(concurrency-mt-unsafe): no other thread
+    startHost({"--tool", "CD Burner", "--image-drive", imageFolder_, medium("short.wav")});
+    waitUntil("the tool's window", [this] { return !windowNamed("CD-Brenner").isNull(); });
+    const Accessible window = windowNamed("CD-Brenner");
+    waitUntil("the row", [&window] {
+        return window.find(ATSPI_ROLE_TABLE, "Brennliste").cellName(0, 0) == "short, 0:04";
+    });
+    EXPECT_FALSE(window.find(ATSPI_ROLE_PUSH_BUTTON, "Brennen").isNull());
+    EXPECT_FALSE(hostWindow().find(ATSPI_ROLE_MENU_ITEM, "Bearbeiten").isNull());
+    EXPECT_FALSE(hostWindow().find(ATSPI_ROLE_TEXT, "Titel suchen").isNull());
+    setenv("LC_ALL", "C.UTF-8", 1); // NOLINT(concurrency-mt-unsafe)
 }
 
 TEST_F(AccessibleWindow, MessageOfTheHostIsANotification) {
