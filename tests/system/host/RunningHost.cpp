@@ -6,6 +6,7 @@
 #include <QDeadlineTimer>
 #include <QEvent>
 #include <QEventLoop>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -31,11 +32,13 @@ bool RunningHost::start(const crate::CommandLine &commandLine, std::string &erro
 
 bool RunningHost::waitUntil(const std::function<bool()> &isSo, std::chrono::milliseconds limit) {
     const QDeadlineTimer deadline(limit);
+    QTimer look; // What is waited for may come about without an event.
+    look.start(5);
     while (!isSo()) {
         if (deadline.hasExpired()) {
             return false;
         }
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     return true;
