@@ -51,9 +51,6 @@ constexpr std::string_view tooSlow =
 constexpr std::string_view writeError =
     localizableKey("The disc in the drive “%@” could not be written. It cannot be used any more: "
                    "try again with a new one, best of another make.");
-constexpr std::string_view writeErrorAt =
-    localizableKey("The disc in the drive “%@” could not be written at sector %@. It cannot be "
-                   "used any more: try again with a new one, best of another make.");
 constexpr std::string_view closingError =
     localizableKey("The drive “%@” could not close the disc. Other drives may not be able to read "
                    "it: try again with a new one.");
@@ -158,9 +155,12 @@ ScorchError senseError(const Sense &sense, const DriveErrorContext &context,
                 senseDetail(sense, detail)};
     }
     if (found->text == writeError && context.sector) {
-        return {found->category,
-                localized(writeErrorAt, {context.driveName, std::to_string(*context.sector)}),
-                senseDetail(sense, detail)};
+        return {
+            found->category,
+            localized("The disc in the drive “%@” could not be written at sector %@. It cannot be "
+                      "used any more: try again with a new one, best of another make.",
+                      {context.driveName, std::to_string(*context.sector)}),
+            senseDetail(sense, detail)};
     }
     return {found->category, localized(found->text, {context.driveName}),
             senseDetail(sense, detail)};
