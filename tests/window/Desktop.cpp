@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/window/Desktop.h"
 
+#include "tests/support/CommandResult.h"
 #include "tests/window/Deadline.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
+#include <tuple>
 
 namespace {
 
@@ -46,6 +48,7 @@ Desktop::Desktop() {
                                  TEST_WINDOW_DIR "/openbox.xml"},
         errorFile());
     EXPECT_TRUE(eventually([this] { return hasWindowManager(); })) << readFile(errorFile());
+    EXPECT_TRUE(eventually([this] { return isManaging(); })) << readFile(errorFile());
 }
 
 Desktop::~Desktop() {
@@ -55,11 +58,37 @@ Desktop::~Desktop() {
     }
 }
 
+void Desktop::splitIntoTwoMonitors() {
+    const int width = size.width() / 2;
+    const std::string half =
+        std::to_string(width) + "/240x" + std::to_string(size.height()) + "/260+";
+    // RandR's monitors: the server's one output belongs to the first of them.
+    for (const auto &[name, left, output] :
+         {std::tuple("left", 0, "screen"), std::tuple("right", width, "none")}) {
+        const CommandResult result = runCommand(
+            {"xrandr", "--setmonitor", name, half + std::to_string(left) + "+0", output});
+        EXPECT_EQ(result.exitCode, 0) << result.output;
+    }
+}
+
 bool Desktop::hasWindowManager() {
     // The window that is named must name itself: the property may be left over.
     const std::string check = "_NET_SUPPORTING_WM_CHECK";
     const std::uint32_t window = property(root_, check, XCB_ATOM_WINDOW);
     return window != 0 && property(window, check, XCB_ATOM_WINDOW) == window;
+}
+
+bool Desktop::isManaging() {
+    constexpr std::chrono::milliseconds patience{500}; // Then another window is tried.
+    const std::uint32_t window = xcb_generate_id(connection_);
+    xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window, root_, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection_, window);
+    const bool isManaged =
+        eventually([&] { return property(window, "WM_STATE", atom("WM_STATE")) != 0; }, patience);
+    xcb_destroy_window(connection_, window);
+    xcb_flush(connection_);
+    return isManaged;
 }
 
 std::uint32_t Desktop::atom(const std::string &name) {

@@ -27,6 +27,10 @@ public:
 
     static constexpr QSize size{1800, 1000};
 
+    /// Makes two monitors of the screen, its left and its right half. For programs that start
+    /// later.
+    static void splitIntoTwoMonitors();
+
     /// The window that the window manager calls active; 0 for none.
     std::uint32_t activeWindow();
     /// A window's place on the screen without its frame; empty if there is no such window.
@@ -44,6 +48,9 @@ private:
     /// A property of one 32 bit value; 0 if there is none.
     std::uint32_t property(std::uint32_t window, const std::string &name, std::uint32_t type);
     bool hasWindowManager();
+    /// Whether a window that is put up now is taken care of. A window manager says that it is there
+    /// some time before that; what is put up between is left alone for ever.
+    bool isManaging();
 
     TemporaryFolder folder_;
     std::unique_ptr<ChildProcess> server_;

@@ -21,11 +21,8 @@ protected:
         const QRect rect = rectOfRow(row);
         return {pointInRow(row).x(), rect.top() + 4};
     }
-    /// On the last pixels of a row, so that the picture under the pointer hangs above it.
-    QPoint grip(int row) { return {pointInRow(row).x(), rectOfRow(row).bottom() - 1}; }
-
     void drag(int row, const QPoint &to) {
-        dragInHost(grip(row), to, Answer::taken);
+        dragInHost(pointInRow(row), to, Answer::taken);
         dropInHost();
     }
     void selectFromTo(int first, int last) {
@@ -34,10 +31,11 @@ protected:
         Hand::clickAt(pointInRow(last));
         Hand::keyUp("shift");
     }
-    /// The pixels along the border between a row and the one below it.
+    /// The pixels along the border between a row and the one below it, in their right half: the
+    /// picture of what is dragged hangs from the pointer in the left one.
     std::vector<QColor> borderBelow(int row) {
         const QRect rect = rectOfRow(row);
-        return desktop_.pixels({rect.x() + 20, rect.bottom() + 1, rect.width() - 40, 1});
+        return desktop_.pixels({rect.center().x(), rect.bottom() + 1, rect.width() / 2 - 40, 1});
     }
 };
 
@@ -82,7 +80,7 @@ TEST_F(Reordering, RowDroppedOnItselfStaysAndIsSelected) {
 TEST_F(Reordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
     startWithSongs(4);
     const auto before = borderBelow(2);
-    dragInHost(grip(0), below(2), Answer::taken);
+    dragInHost(pointInRow(0), below(2), Answer::taken);
     waitUntil("a line of one colour shows on the border", [this, &before] {
         const auto during = borderBelow(2);
         const auto lineColour = during.front();
@@ -99,7 +97,7 @@ TEST_F(Reordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
 
 TEST_F(Reordering, EscapeDuringTheDragLeavesTheListAlone) {
     startWithSongs(3);
-    dragInHost(grip(0), below(2), Answer::taken);
+    dragInHost(pointInRow(0), below(2), Answer::taken);
     Hand::keys({"Escape"});
     waitUntil("the drag is over", [this] { return state()["cursor"].toInt() == -1; });
     Hand::release();

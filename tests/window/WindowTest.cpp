@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr std::uint32_t bytesPerSecond = 44'100 * 4; // Of sound as a CD has it.
+
 QRect rectFrom(const QJsonObject &place) {
     return {place["x"].toInt(), place["y"].toInt(), place["w"].toInt(), place["h"].toInt()};
 }
@@ -20,15 +22,13 @@ std::string littleEndian(std::uint32_t value) {
     return bytes;
 }
 
-/// A WAV file of 16 bit stereo silence.
-std::string silence(std::uint32_t seconds) {
-    constexpr std::uint32_t bytesPerSecond = 44'100 * 4;
+/// The first bytes of a WAV file of 16 bit stereo; the sound comes after them.
+std::string waveHeader(std::uint32_t dataBytes) {
     constexpr std::uint32_t headerBytes = 44;
-    const std::uint32_t dataBytes = seconds * bytesPerSecond;
     const std::string format = std::string("\1\0\2\0", 4) + littleEndian(44'100) +
                                littleEndian(bytesPerSecond) + std::string("\4\0\x10\0", 4);
     return "RIFF" + littleEndian(dataBytes + headerBytes - 8) + "WAVEfmt " + littleEndian(16) +
-           format + "data" + littleEndian(dataBytes) + std::string(dataBytes, '\0');
+           format + "data" + littleEndian(dataBytes);
 }
 
 bool isNear(const QJsonValue &point, const QPoint &place) {
@@ -51,26 +51,51 @@ WindowTest::~WindowTest() {
 }
 
 void WindowTest::start(const std::vector<std::filesystem::path> &files) {
-    std::vector<std::string> arguments = {TEST_WINDOW_HOST,
-                                          "--tool=CD Burner",
-                                          "--image-drive=" + imageFolder_.string(),
-                                          "--music=" + musicFolder_.string(),
-                                          "--usage-log=" + (folder_ / "usage").string(),
-                                          "--"};
+    launch(files, true);
+    waitUntil("the disc is known", [this] {
+        return isVisible("_volumeName") && text("_volumeName") == QLatin1String("Untitled");
+    });
+    waitUntil("the files are listed", [this, &files] {
+        return list().size() == files.size() && !hasWindow("ProgressWindow") && isSettled();
+    });
+}
+
+void WindowTest::startWithoutDrive() {
+    launch({}, false);
+    waitUntil("it is said that there is no drive", [this] { return isVisible("_txtNoneDevice"); });
+}
+
+void WindowTest::launch(const std::vector<std::filesystem::path> &files, bool hasDrive) {
+    std::vector<std::string> arguments = {TEST_WINDOW_HOST, "--tool=CD Burner",
+                                          "--music=" + musicFolder_.string()};
+    if (hasDrive) {
+        arguments.push_back("--image-drive=" + imageFolder_.string());
+    }
+    arguments.emplace_back("--");
     arguments.insert(arguments.end(), files.begin(), files.end());
     host_ = std::make_unique<Program>(arguments, desktop_.errorFile());
     waitUntil("the windows are up", [this] { return isSettled(); });
-    waitUntil("the files are listed", [this, &files] {
-        return list().size() == files.size() && !hasWindow("ProgressWindow");
-    });
 }
 
 bool WindowTest::isSettled() {
     const std::uint32_t id = windowId("MainWindow");
     return id != 0 && state()["active"] == QLatin1String("MainWindow") &&
-           desktop_.activeWindow() == id &&
-           desktop_.windowRect(id) == rectFrom(part("windows")["MainWindow"].toObject()) &&
-           isVisible("_volumeName") && text("_volumeName") == QLatin1String("Untitled");
+           desktop_.activeWindow() == id && desktop_.windowRect(id) == placeOf("MainWindow");
+}
+
+QRect WindowTest::placeOf(const char *window) {
+    return rectFrom(part("windows")[window].toObject());
+}
+
+void WindowTest::moveWindow(const QPoint &corner) {
+    const QRect before = placeOf("MainWindow");
+    const std::uint32_t id = windowId("MainWindow");
+    Hand::run(
+        {"windowmove", std::to_string(id), std::to_string(corner.x()), std::to_string(corner.y())});
+    waitUntil("the window has moved", [&] {
+        const QRect now = placeOf("MainWindow");
+        return now != before && now == desktop_.windowRect(id);
+    });
 }
 
 void WindowTest::startWithSongs(int count) {
@@ -84,6 +109,17 @@ void WindowTest::startWithSongs(int count) {
 }
 
 void WindowTest::startNeighbour() {
+    startNeighbourBeside();
+    activate();
+}
+
+void WindowTest::activate() {
+    Hand::run({"windowactivate", std::to_string(windowId("MainWindow"))});
+    waitUntil("the tool's window is active again",
+              [this] { return state()["active"] == QLatin1String("MainWindow"); });
+}
+
+void WindowTest::startNeighbourBeside() {
     neighbour_ = std::make_unique<Program>(std::vector<std::string>{TEST_WINDOW_NEIGHBOUR},
                                            desktop_.errorFile());
     waitUntil("the neighbour is up", [this] {
@@ -91,9 +127,6 @@ void WindowTest::startNeighbour() {
         const auto id = static_cast<std::uint32_t>(window["id"].toInteger());
         return window["active"].toBool() && desktop_.windowRect(id) == rectFrom(window);
     });
-    Hand::run({"windowactivate", std::to_string(windowId("MainWindow"))});
-    waitUntil("the tool's window is active again",
-              [this] { return state()["active"] == QLatin1String("MainWindow"); });
 }
 
 std::uint32_t WindowTest::windowId(const char *name) {
@@ -196,8 +229,10 @@ void WindowTest::holdAt(const QPoint &to, Answer answer, Program &source) {
     waitUntil("the drag is answered at its place", [&] {
         Hand::moveTo(to + QPoint(1, 0));
         Hand::moveTo(to);
-        return isNear(state()["dragPoint"], to) && state()["dragAnswer"] == expected &&
-               source.ask()["cursor"].toInt() == pointer;
+        const bool isAnswered = answer == Answer::blocked ? source.ask()["answer"] == expected
+                                                          : isNear(state()["dragPoint"], to) &&
+                                                                state()["dragAnswer"] == expected;
+        return isAnswered && source.ask()["cursor"].toInt() == pointer;
     });
 }
 
@@ -224,7 +259,16 @@ std::string WindowTest::address(const std::filesystem::path &path) {
 }
 
 std::filesystem::path WindowTest::song(const std::string &name) const {
-    return folder_.write("songs/" + name + ".wav", silence(1));
+    return folder_.write("songs/" + name + ".wav",
+                         waveHeader(bytesPerSecond) + std::string(bytesPerSecond, '\0'));
+}
+
+std::filesystem::path WindowTest::longSong() const {
+    constexpr std::uint32_t dataBytes = 70 * 60 * bytesPerSecond;
+    const std::string header = waveHeader(dataBytes);
+    std::filesystem::path file = folder_.write("songs/long.wav", header);
+    std::filesystem::resize_file(file, header.size() + dataBytes);
+    return file;
 }
 
 std::string WindowTest::description() {

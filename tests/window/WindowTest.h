@@ -33,8 +33,14 @@ protected:
     void start(const std::vector<std::filesystem::path> &files = {});
     /// The same with a list of so many songs, "song 01" and on.
     void startWithSongs(int count);
+    /// The same without any drive.
+    void startWithoutDrive();
     /// Starts the other program beside them. The tool's window is active again when it returns.
     void startNeighbour();
+    /// The same without making the tool's window active again.
+    void startNeighbourBeside();
+    /// Makes the tool's window the active one, as a click on its title does.
+    void activate();
 
     QJsonObject state() { return host_->ask(); }
     /// A part of the state, as HostProbe names it.
@@ -46,6 +52,10 @@ protected:
     QString focus() { return state()["focus"].toString(); }
     bool hasWindow(const char *name) { return part("windows").contains(name); }
     std::uint32_t windowId(const char *name);
+    /// A window's place as the program sees it.
+    QRect placeOf(const char *window);
+    /// Has the window manager put the tool's window there, and waits until it stands.
+    void moveWindow(const QPoint &corner);
     QRect rectOf(const char *name);
     QPoint middleOf(const char *name) { return rectOf(name).center(); }
     /// On the edge of a row's right end stands the delete button, so this is in its left half.
@@ -69,8 +79,9 @@ protected:
     /// Puts the text cursor into the empty volume name field, as a click and Ctrl+A, Delete do.
     void clearVolumeName();
 
-    /// What the host answers to something that is held over it.
-    enum class Answer { taken, refused };
+    /// What the host answers to something that is held over it; blocked is a refusal before any
+    /// widget was asked.
+    enum class Answer { taken, refused, blocked };
 
     /// What the neighbour's next drag carries: formats and their data.
     void offer(const std::map<std::string, std::string> &formats);
@@ -92,6 +103,8 @@ protected:
     static std::string address(const std::filesystem::path &path);
     /// A song of a second, which is silence.
     std::filesystem::path song(const std::string &name) const;
+    /// One of seventy minutes, which takes no room on the disk.
+    std::filesystem::path longSong() const;
 
     TemporaryFolder folder_;
     std::filesystem::path imageFolder_;
@@ -104,4 +117,5 @@ private:
     std::string description();
     void holdAt(const QPoint &to, Answer answer, Program &source);
     bool isSettled();
+    void launch(const std::vector<std::filesystem::path> &files, bool hasDrive);
 };

@@ -25,8 +25,7 @@ xcb_atom_t atomNamed(const char *name) {
 
 } // namespace
 
-DropReply::DropReply(std::function<void(const QString &)> finished)
-    : finished_(std::move(finished)) {
+DropReply::DropReply(Handlers handlers) : handlers_(std::move(handlers)) {
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -38,13 +37,17 @@ bool DropReply::nativeEventFilter(const QByteArray & /*eventType*/, void *messag
                                   qintptr * /*result*/) {
     const auto *const event = static_cast<const xcb_client_message_event_t *>(message);
     const auto type = static_cast<std::uint8_t>(event->response_type & ~sentByClient);
-    if (type != XCB_CLIENT_MESSAGE || event->type != atomNamed("XdndFinished")) {
+    if (type != XCB_CLIENT_MESSAGE) {
         return false;
     }
     const bool isTaken = (event->data.data32[1] & 1U) != 0;
-    const bool isMove = event->data.data32[2] == atomNamed("XdndActionMove");
-    finished_(!isTaken ? QStringLiteral("ignore")
-              : isMove ? QStringLiteral("move")
-                       : QStringLiteral("copy"));
+    if (event->type == atomNamed("XdndStatus")) {
+        handlers_.answered(isTaken);
+    } else if (event->type == atomNamed("XdndFinished")) {
+        const bool isMove = event->data.data32[2] == atomNamed("XdndActionMove");
+        handlers_.finished(!isTaken ? QStringLiteral("ignore")
+                           : isMove ? QStringLiteral("move")
+                                    : QStringLiteral("copy"));
+    }
     return false;
 }

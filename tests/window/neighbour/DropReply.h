@@ -6,12 +6,18 @@
 
 #include <functional>
 
-/// Hears what the target of a drop says of it at the end (XdndFinished, XDND version 5). Qt does
-/// not wait for that: its own result is what the target promised before the drop. Main thread.
+/// Hears what the target of a drag says, as it stands on the wire (XDND version 5): of what is held
+/// over it (XdndStatus), and of a drop at its end (XdndFinished). Qt does not wait for the latter:
+/// its own result is what the target promised before the drop. Main thread.
 class DropReply final : public QAbstractNativeEventFilter {
 public:
-    /// `finished` gets "copy" or "move", or "ignore" for a drop that was refused.
-    explicit DropReply(std::function<void(const QString &action)> finished);
+    struct Handlers {
+        std::function<void(bool isTaken)> answered;
+        /// "copy" or "move", or "ignore" for a drop that was refused.
+        std::function<void(const QString &action)> finished;
+    };
+
+    explicit DropReply(Handlers handlers);
     ~DropReply() override;
     DropReply(const DropReply &) = delete;
     DropReply &operator=(const DropReply &) = delete;
@@ -19,5 +25,5 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
-    std::function<void(const QString &)> finished_;
+    Handlers handlers_;
 };

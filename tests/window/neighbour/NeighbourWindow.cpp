@@ -7,7 +7,13 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
-NeighbourWindow::NeighbourWindow() : reply_([this](const QString &result) { end(result); }) {
+NeighbourWindow::NeighbourWindow()
+    : reply_({[this](bool isTaken) {
+                  answer_ = isTaken ? QStringLiteral("taken") : QStringLiteral("refused");
+              },
+              [this](const QString &result) {
+                  end(result);
+              }}) {
     setWindowTitle(QStringLiteral("Neighbour"));
     resize(160, 120);
 }
@@ -30,6 +36,7 @@ QJsonObject NeighbourWindow::answer(const QJsonObject &question) {
             {"active", isActiveWindow()},
             {"isDragging", isDragging_},
             {"cursor", cursor != nullptr ? static_cast<int>(cursor->shape()) : -1},
+            {"answer", answer_},
             {"drags", drags_},
             {"result", result_},
             {"clipboard", ownsClipboard ? QGuiApplication::clipboard()->text() : QString()}};
@@ -58,6 +65,7 @@ void NeighbourWindow::drag() {
     }
     drag->setMimeData(mime);
     pressed_.reset();
+    answer_.clear();
     isDragging_ = true;
     const Qt::DropAction action = drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
     if (action == Qt::IgnoreAction) {

@@ -22,9 +22,10 @@ public:
     /// the data stands for so many zero bytes.
     /// "clipboard": a text that this program puts on the clipboard.
     /// Answers "id" and place of the window; "active"; "isDragging"; "cursor", the shape of the
-    /// pointer during a drag; "drags", how many have ended, by a drop that the target
-    /// has answered or without one; "result", of the last one: "copy", "move" or "ignore";
-    /// "clipboard", the text on the clipboard if it is this program's.
+    /// pointer during a drag; "answer", what the target said last of it: "taken" or "refused";
+    /// "drags", how many have ended, by a drop that the target has answered or without one;
+    /// "result", of the last one: "copy", "move" or "ignore"; "clipboard", the text on the
+    /// clipboard if it is this program's.
     QJsonObject answer(const QJsonObject &question);
 
 protected:
@@ -39,6 +40,7 @@ private:
     std::optional<QPoint> pressed_;
     bool isDragging_ = false;
     int drags_ = 0;
+    QString answer_;
     QString result_;
     DropReply reply_;
 };
