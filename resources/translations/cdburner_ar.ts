@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>جارٍ البحث عن محركات الأقراص…</translation>
+        <translation>يجري البحث عن محركات الأقراص…</translation>
     </message>
     <message>
         <source>%@, %@</source>

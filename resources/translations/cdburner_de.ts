@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Laufwerke werden gesucht …</translation>
+        <translation>CD-Laufwerke werden gesucht …</translation>
     </message>
     <message>
         <source>%@, %@</source>

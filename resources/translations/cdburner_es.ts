@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Buscando unidades de disco…</translation>
+        <translation>Buscando unidades de CD…</translation>
     </message>
     <message>
         <source>%@, %@</source>

@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Recherche des lecteurs de disques…</translation>
+        <translation>Recherche des lecteurs de CD…</translation>
     </message>
     <message>
         <source>%@, %@</source>

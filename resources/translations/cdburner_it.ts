@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Ricerca delle unità disco…</translation>
+        <translation>Ricerca delle unità CD…</translation>
     </message>
     <message>
         <source>%@, %@</source>

@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>ドライブを探しています…</translation>
+        <translation>ディスクドライブを探しています…</translation>
     </message>
     <message>
         <source>%@, %@</source>

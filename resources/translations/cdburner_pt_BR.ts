@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Procurando unidades de disco…</translation>
+        <translation>Procurando unidades de CD…</translation>
     </message>
     <message>
         <source>%@, %@</source>

@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>Поиск приводов…</translation>
+        <translation>Поиск приводов компакт-дисков…</translation>
     </message>
     <message>
         <source>%@, %@</source>

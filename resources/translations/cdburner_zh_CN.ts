@@ -574,7 +574,7 @@
     </message>
     <message>
         <source>Looking for disc drives...</source>
-        <translation>正在查找光驱…</translation>
+        <translation>正在查找光盘驱动器…</translation>
     </message>
     <message>
         <source>%@, %@</source>

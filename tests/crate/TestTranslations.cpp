@@ -172,9 +172,9 @@ INSTANTIATE_TEST_SUITE_P(Languages, HostTranslations, testing::ValuesIn(language
 
 TEST(HostLanguage, CountsAsItsSpeakersDo) {
     const Spoken spoken(QStringLiteral("ru"));
-    EXPECT_EQ(crate::translatedCount("%Ln songs", 3), QStringLiteral("3 композиции"));
-    EXPECT_EQ(crate::translatedCount("%Ln songs", 5), QStringLiteral("5 композиций"));
-    EXPECT_EQ(crate::translatedCount("%Ln songs", 21), QStringLiteral("21 композиция"));
+    EXPECT_EQ(crate::translatedCount("%Ln songs", 3), QStringLiteral("3 песни"));
+    EXPECT_EQ(crate::translatedCount("%Ln songs", 5), QStringLiteral("5 песен"));
+    EXPECT_EQ(crate::translatedCount("%Ln songs", 21), QStringLiteral("21 песня"));
     EXPECT_EQ(crate::totalLengthText(61min), QStringLiteral("1 час 1 минута"));
 }
 

@@ -36,7 +36,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>&amp;Songs</source>
-        <translation>&amp;Titres</translation>
+        <translation>&amp;Morceaux</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -52,7 +52,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>&amp;Look for Songs Again</source>
-        <translation>&amp;Rechercher à nouveau les titres</translation>
+        <translation>&amp;Rechercher à nouveau les morceaux</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -64,11 +64,11 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>&amp;Find Songs</source>
-        <translation>&amp;Rechercher des titres</translation>
+        <translation>&amp;Rechercher des morceaux</translation>
     </message>
     <message>
         <source>Songs</source>
-        <translation>Titres</translation>
+        <translation>Morceaux</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -84,7 +84,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>Add the selected songs to the list of %1</source>
-        <translation>Ajouter les titres sélectionnés à la liste de %1</translation>
+        <translation>Ajouter les morceaux sélectionnés à la liste de %1</translation>
     </message>
     <message>
         <source>Search</source>
@@ -92,7 +92,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>Search songs</source>
-        <translation>Rechercher des titres</translation>
+        <translation>Rechercher des morceaux</translation>
     </message>
     <message>
         <source>Clear the search</source>
@@ -100,11 +100,11 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>Looking for songs</source>
-        <translation>Recherche des titres</translation>
+        <translation>Recherche des morceaux</translation>
     </message>
     <message>
         <source>Looking for songs…</source>
-        <translation>Recherche des titres…</translation>
+        <translation>Recherche des morceaux…</translation>
     </message>
     <message>
         <source>Choose the Music Folder</source>
@@ -116,7 +116,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>No song matches “%1”</source>
-        <translation>Aucun titre ne correspond à « %1 »</translation>
+        <translation>Aucun morceau ne correspond à « %1 »</translation>
     </message>
     <message>
         <source>Titles, artists, albums and file names are searched.</source>
@@ -132,7 +132,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>No songs here yet</source>
-        <translation>Aucun titre pour l’instant</translation>
+        <translation>Aucun morceau pour l’instant</translation>
     </message>
     <message>
         <source>Put music into %1, or choose another folder.</source>
@@ -148,7 +148,7 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>The tool did not take the songs.</source>
-        <translation>L’outil n’a pas accepté les titres.</translation>
+        <translation>L’outil n’a pas accepté les morceaux.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -216,11 +216,11 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     </message>
     <message>
         <source>1 song</source>
-        <translation>1 titre</translation>
+        <translation>1 morceau</translation>
     </message>
     <message>
         <source>1 song selected</source>
-        <translation>1 titre sélectionné</translation>
+        <translation>1 morceau sélectionné</translation>
     </message>
     <message>
         <source>1 day</source>
@@ -237,15 +237,15 @@ Logiciel libre sous licence publique générale GNU, version 2 ou ultérieure.</
     <message numerus="yes">
         <source>%Ln songs</source>
         <translation>
-            <numerusform>%Ln titre</numerusform>
-            <numerusform>%Ln titres</numerusform>
+            <numerusform>%Ln morceau</numerusform>
+            <numerusform>%Ln morceaux</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln songs selected</source>
         <translation>
-            <numerusform>%Ln titre sélectionné</numerusform>
-            <numerusform>%Ln titres sélectionnés</numerusform>
+            <numerusform>%Ln morceau sélectionné</numerusform>
+            <numerusform>%Ln morceaux sélectionnés</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -36,7 +36,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>&amp;Songs</source>
-        <translation>&amp;Композиции</translation>
+        <translation>П&amp;есни</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
@@ -52,7 +52,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>&amp;Look for Songs Again</source>
-        <translation>&amp;Искать композиции снова</translation>
+        <translation>&amp;Искать песни снова</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -64,11 +64,11 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>&amp;Find Songs</source>
-        <translation>&amp;Найти композиции</translation>
+        <translation>&amp;Найти песни</translation>
     </message>
     <message>
         <source>Songs</source>
-        <translation>Композиции</translation>
+        <translation>Песни</translation>
     </message>
     <message>
         <source>Tools</source>
@@ -84,7 +84,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>Add the selected songs to the list of %1</source>
-        <translation>Добавить выделенные композиции в список: %1</translation>
+        <translation>Добавить выделенные песни в список: %1</translation>
     </message>
     <message>
         <source>Search</source>
@@ -92,7 +92,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>Search songs</source>
-        <translation>Поиск композиций</translation>
+        <translation>Поиск песен</translation>
     </message>
     <message>
         <source>Clear the search</source>
@@ -100,11 +100,11 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>Looking for songs</source>
-        <translation>Поиск композиций</translation>
+        <translation>Поиск песен</translation>
     </message>
     <message>
         <source>Looking for songs…</source>
-        <translation>Поиск композиций…</translation>
+        <translation>Поиск песен…</translation>
     </message>
     <message>
         <source>Choose the Music Folder</source>
@@ -132,7 +132,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>No songs here yet</source>
-        <translation>Композиций пока нет</translation>
+        <translation>Песен пока нет</translation>
     </message>
     <message>
         <source>Put music into %1, or choose another folder.</source>
@@ -148,7 +148,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>The tool did not take the songs.</source>
-        <translation>Инструмент не принял композиции.</translation>
+        <translation>Инструмент не принял песни.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -216,11 +216,11 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>1 song</source>
-        <translation>1 композиция</translation>
+        <translation>1 песня</translation>
     </message>
     <message>
         <source>1 song selected</source>
-        <translation>Выделена 1 композиция</translation>
+        <translation>Выделена 1 песня</translation>
     </message>
     <message>
         <source>1 day</source>
@@ -237,17 +237,17 @@ Free software under the GNU General Public License, version 2 or later.</source>
     <message numerus="yes">
         <source>%Ln songs</source>
         <translation>
-            <numerusform>%Ln композиция</numerusform>
-            <numerusform>%Ln композиции</numerusform>
-            <numerusform>%Ln композиций</numerusform>
+            <numerusform>%Ln песня</numerusform>
+            <numerusform>%Ln песни</numerusform>
+            <numerusform>%Ln песен</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln songs selected</source>
         <translation>
-            <numerusform>Выделена %Ln композиция</numerusform>
-            <numerusform>Выделены %Ln композиции</numerusform>
-            <numerusform>Выделено %Ln композиций</numerusform>
+            <numerusform>Выделена %Ln песня</numerusform>
+            <numerusform>Выделены %Ln песни</numerusform>
+            <numerusform>Выделено %Ln песен</numerusform>
         </translation>
     </message>
     <message numerus="yes">
