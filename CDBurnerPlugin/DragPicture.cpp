@@ -2,7 +2,6 @@
 #include "CDBurnerPlugin/DragPicture.h"
 
 #include <QFontMetrics>
-#include <QLocale>
 #include <QPainter>
 #include <QWidget>
 
@@ -21,7 +20,7 @@ constexpr double radius = 5.0;
 DragPicture dragPicture(const QString &firstName, qsizetype rowCount, const QWidget &widget) {
     const QFontMetrics metrics(widget.font());
     const QString name = metrics.elidedText(firstName, Qt::ElideMiddle, longestName);
-    const QString count = rowCount > 1 ? QLocale().toString(rowCount) : QString();
+    const QString count = rowCount > 1 ? QString::number(rowCount) : QString();
     const int nameWidth = metrics.horizontalAdvance(name);
     const int badgeWidth =
         count.isEmpty() ? 0 : std::max(metrics.horizontalAdvance(count) + gap, metrics.height());
