@@ -14,7 +14,7 @@ std::shared_ptr<Object> owned(Object *object) {
 }
 
 std::string taken(gchar *text) {
-    const std::string copy = text != nullptr ? text : "";
+    std::string copy = text != nullptr ? text : "";
     g_free(text);
     return copy;
 }
@@ -122,6 +122,7 @@ std::vector<std::string> Accessible::actions() const {
     std::vector<std::string> names;
     const auto action = owned(atspi_accessible_get_action_iface(object_.get()));
     const int count = action ? atspi_action_get_n_actions(action.get(), nullptr) : 0;
+    names.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         names.push_back(taken(atspi_action_get_action_name(action.get(), i, nullptr)));
     }

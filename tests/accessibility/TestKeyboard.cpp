@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace {
 
 using testing::ElementsAre;
@@ -34,10 +36,8 @@ protected:
 };
 
 TEST_F(AccessibleKeyboard, TabGoesThroughTheControlsInTheirOrder) {
-    std::vector<std::string> order;
-    for (int i = 0; i < 8; ++i) {
-        order.push_back(focusAfter("Tab"));
-    }
+    std::vector<std::string> order(8);
+    std::generate(order.begin(), order.end(), [this] { return focusAfter("Tab"); });
     EXPECT_THAT(order, ElementsAre("Help", "short, 0:04", "Clear", "Burn", "Disc image (images)",
                                    "Eject", "Audio CD", "Volume name:"));
     EXPECT_EQ(focusAfter("shift+Tab"), "Audio CD");

@@ -29,11 +29,11 @@ QAccessibleInterface *interfaceOf(QWidget *view) {
     return QAccessible::queryAccessibleInterface(view);
 }
 
-class AccessibleSheet : public testing::Test {
+class AnnouncingSheet : public testing::Test {
 protected:
     static void SetUpTestSuite() { installAccessibleViews(); }
 
-    AccessibleSheet() {
+    AnnouncingSheet() {
         showActive(main_);
         sheet_.setType(ProgressWindow::burningType);
         sheet_.runSheetForWindow(&main_);
@@ -68,7 +68,7 @@ private:
     ProgressWindow sheet_{&main_};
 };
 
-TEST_F(AccessibleSheet, AnnouncesEachStep) {
+TEST_F(AnnouncingSheet, AnnouncesEachStep) {
     step("Prepare");
     step("Prepare");
     step("Verify");
@@ -76,7 +76,7 @@ TEST_F(AccessibleSheet, AnnouncesEachStep) {
     EXPECT_EQ(label("txtName")->announcedText(), name_);
 }
 
-TEST_F(AccessibleSheet, AnnouncesWhatPassesWithEachTenth) {
+TEST_F(AnnouncingSheet, AnnouncesWhatPassesWithEachTenth) {
     int reported = 0;
     QObject::connect(bar(), &QProgressBar::valueChanged, [&reported] { ++reported; });
     for (int percent = 0; percent <= 100; ++percent) {
@@ -88,7 +88,7 @@ TEST_F(AccessibleSheet, AnnouncesWhatPassesWithEachTenth) {
     EXPECT_EQ(reported, 10);
 }
 
-TEST_F(AccessibleSheet, AnnouncesTheFirstOfAnotherWork) {
+TEST_F(AnnouncingSheet, AnnouncesTheFirstOfAnotherWork) {
     progress(0.51F, QStringLiteral("1:00"));
     progress(0.52F, QStringLiteral("0:59"));
     name_ = QStringLiteral("Checking");
@@ -97,7 +97,7 @@ TEST_F(AccessibleSheet, AnnouncesTheFirstOfAnotherWork) {
     EXPECT_EQ(label("txtName")->announcedText(), name_);
 }
 
-TEST_F(AccessibleSheet, TellsWhatItShowsBetweenAnnouncements) {
+TEST_F(AnnouncingSheet, TellsWhatItShowsBetweenAnnouncements) {
     progress(0.51F, QStringLiteral("1:00"));
     progress(0.52F, QStringLiteral("0:59"));
     QAccessibleInterface *tips = interfaceOf(label("txtTips"));
