@@ -147,7 +147,7 @@ std::string discText(const ScorcherDevice &device) {
 std::string driveText(const ScorcherDevice &device) {
     const ScorcherDeviceDescription description = device.description();
     std::vector<std::string> parts;
-    if (!description.writeSpeeds.empty()) {
+    if (discWord(device) == "blank" && !description.writeSpeeds.empty()) {
         parts.push_back("written at" + speedsText(description.writeSpeeds));
     }
     const std::string maker = description.vendor.empty() ? "" : description.vendor + ' ';

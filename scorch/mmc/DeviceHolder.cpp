@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <fstream>
 #include <string_view>
 #include <system_error>
@@ -74,7 +75,8 @@ std::string groupOf(const fs::path &node) {
     if (::stat(node.c_str(), &status) != 0) {
         return {};
     }
-    std::vector<char> buffer(16 * 1024);
+    constexpr std::size_t enough = 16'384; // For a group with many members.
+    std::vector<char> buffer(enough);
     struct group entry {};
     struct group *found = nullptr;
     const int failed = ::getgrgid_r(status.st_gid, &entry, buffer.data(), buffer.size(), &found);

@@ -156,6 +156,10 @@ TEST_F(Drives, CommandTellsWhatADriveIs) {
     runDrivesCommand({std::nullopt, true}, json.output(), err.output());
     EXPECT_EQ(out.text(), "A: blank CD-R, 79:57 or 737.0 MB free; written at 52x 32x 8x, "
                           "EXAMPLE CD-RW 52X, firmware 1.00, /dev/sr0\n");
+    engine.drive("A").isBlank = false;
+    EXPECT_EQ(driveText(*ScorcherDevice::initWithDeviceName("A")),
+              "EXAMPLE CD-RW 52X, firmware 1.00, /dev/sr0")
+        << "nothing is going to be written on a used disc";
     EXPECT_THAT(json.text(), HasSubstr(R"("medium":"CD-R","vendor":"EXAMPLE","model":"CD-RW 52X",)"
                                        R"("revision":"1.00","writeSpeeds":[9173,5645,1411],)"
                                        R"("path":"/dev/sr0"})"));
