@@ -24,7 +24,7 @@ std::optional<CodePoints> codePoints(std::string_view text) {
         for (std::size_t at = 1; at < length; ++at) {
             value = value << 6U | (static_cast<unsigned char>(text[at]) & 0x3FU);
         }
-        result += value;
+        result.push_back(value);
         text.remove_prefix(length);
     }
     return result;
