@@ -11,7 +11,7 @@ using testing::ElementsAre;
 
 constexpr const char *addresses = "text/uri-list";
 
-class Dropping : public WindowTest {
+class DesktopDropping : public WindowTest {
 protected:
     QPoint middleOfList() { return middleOf("_filesTableView"); }
 
@@ -19,7 +19,7 @@ protected:
     QPoint above(int row) { return pointInRow(row) - QPoint(0, rectOfRow(row).height() / 2 - 1); }
 };
 
-TEST_F(Dropping, FileOnTheEmptyPictureIsAdded) {
+TEST_F(DesktopDropping, FileOnTheEmptyPictureIsAdded) {
     start();
     startNeighbour();
     offer({{addresses, address(song("one"))}});
@@ -28,7 +28,7 @@ TEST_F(Dropping, FileOnTheEmptyPictureIsAdded) {
     EXPECT_FALSE(isVisible("_dragImageView"));
 }
 
-TEST_F(Dropping, FileOnTheCaptionOfTheEmptyListIsAdded) {
+TEST_F(DesktopDropping, FileOnTheCaptionOfTheEmptyListIsAdded) {
     start();
     startNeighbour();
     offer({{addresses, address(song("one"))}});
@@ -36,7 +36,7 @@ TEST_F(Dropping, FileOnTheCaptionOfTheEmptyListIsAdded) {
     waitForList({"one"});
 }
 
-TEST_F(Dropping, FilesBetweenRowsAreAddedBehindThem) {
+TEST_F(DesktopDropping, FilesBetweenRowsAreAddedBehindThem) {
     startWithSongs(3);
     startNeighbour();
     offer({{addresses, address(song("new")) + address(song("other"))}});
@@ -44,7 +44,7 @@ TEST_F(Dropping, FilesBetweenRowsAreAddedBehindThem) {
     waitForList({"song 01", "song 02", "song 03", "new", "other"});
 }
 
-TEST_F(Dropping, FileNameThatIsNoTextIsAdded) {
+TEST_F(DesktopDropping, FileNameThatIsNoTextIsAdded) {
     start();
     startNeighbour();
     offer({{addresses, address(song("caf\xe9 \xff"))}});
@@ -53,7 +53,7 @@ TEST_F(Dropping, FileNameThatIsNoTextIsAdded) {
     EXPECT_EQ(list().front().substr(0, 3), "caf");
 }
 
-TEST_F(Dropping, RemoteAddressesAreLeftOut) {
+TEST_F(DesktopDropping, RemoteAddressesAreLeftOut) {
     start();
     startNeighbour();
     offer({{addresses, "smb://server/share/a.wav\r\n" + address(song("local")) +
@@ -62,7 +62,7 @@ TEST_F(Dropping, RemoteAddressesAreLeftOut) {
     waitForList({"local"});
 }
 
-TEST_F(Dropping, DropOfRemoteAddressesAloneIsRefused) {
+TEST_F(DesktopDropping, DropOfRemoteAddressesAloneIsRefused) {
     startWithSongs(1);
     startNeighbour();
     offer({{addresses, "smb://server/share/a.wav\r\nhttps://example.org/b.wav\r\n"}});
@@ -71,7 +71,7 @@ TEST_F(Dropping, DropOfRemoteAddressesAloneIsRefused) {
     EXPECT_FALSE(hasWindow("ProgressWindow"));
 }
 
-TEST_F(Dropping, SongsOfTheHostsTableAreAdded) {
+TEST_F(DesktopDropping, SongsOfTheHostsTableAreAdded) {
     std::filesystem::copy(song("library"), musicFolder_ / "library.wav");
     start();
     waitUntil("the library is read",
@@ -81,7 +81,7 @@ TEST_F(Dropping, SongsOfTheHostsTableAreAdded) {
     waitForList({"library"});
 }
 
-TEST_F(Dropping, SongsOfAnotherProcessAreAdded) {
+TEST_F(DesktopDropping, SongsOfAnotherProcessAreAdded) {
     start();
     startNeighbour();
     const auto path = QByteArray::fromStdString(song("theirs").string());
@@ -90,7 +90,7 @@ TEST_F(Dropping, SongsOfAnotherProcessAreAdded) {
     waitForList({"Artist - Title"});
 }
 
-TEST_F(Dropping, DamagedSongsAreRefused) {
+TEST_F(DesktopDropping, DamagedSongsAreRefused) {
     startWithSongs(1);
     startNeighbour();
     const std::string whole =
@@ -111,7 +111,7 @@ TEST_F(Dropping, DamagedSongsAreRefused) {
     }
 }
 
-TEST_F(Dropping, MegabytesInPlaceOfSongsAreRefused) {
+TEST_F(DesktopDropping, MegabytesInPlaceOfSongsAreRefused) {
     startWithSongs(1);
     startNeighbour();
     neighbour_->ask({{"offer", QJsonObject{{songListMimeType, 8 << 20}}}});
@@ -119,7 +119,7 @@ TEST_F(Dropping, MegabytesInPlaceOfSongsAreRefused) {
     EXPECT_THAT(list(), ElementsAre("song 01"));
 }
 
-TEST_F(Dropping, RowsOfAnotherProcessAreNoData) {
+TEST_F(DesktopDropping, RowsOfAnotherProcessAreNoData) {
     startWithSongs(3);
     startNeighbour();
     offer({{"SelfDataSourceItemType", std::string("\x81\x00", 2)}}); // Row 0, well formed.
@@ -127,14 +127,14 @@ TEST_F(Dropping, RowsOfAnotherProcessAreNoData) {
     EXPECT_THAT(list(), ElementsAre("song 01", "song 02", "song 03"));
 }
 
-TEST_F(Dropping, RowsAreNotTakenByTheEmptyPicture) {
+TEST_F(DesktopDropping, RowsAreNotTakenByTheEmptyPicture) {
     start();
     startNeighbour();
     offer({{"SelfDataSourceItemType", std::string("\x81\x00", 2)}});
     EXPECT_EQ(dropOn(middleOf("_dragImageView"), Answer::refused), "ignore");
 }
 
-TEST_F(Dropping, OtherDataIsRefused) {
+TEST_F(DesktopDropping, OtherDataIsRefused) {
     start();
     startNeighbour();
     offer({{"text/plain", "just a text"}});

@@ -4,7 +4,7 @@
 
 namespace {
 
-class HelpBubble : public WindowTest {
+class DesktopHelpBubble : public WindowTest {
 protected:
     bool isOpen() { return hasWindow("VXHelpWindow"); }
     QRect bubble() { return placeOf("VXHelpWindow"); }
@@ -27,7 +27,7 @@ protected:
     bool nameIs(const char *name) { return text("_volumeName") == QLatin1String(name); }
 };
 
-TEST_F(HelpBubble, OpensBesideItsButton) {
+TEST_F(DesktopHelpBubble, OpensBesideItsButton) {
     start();
     open();
     const QRect box = rectOf("_discSetBox");
@@ -36,7 +36,7 @@ TEST_F(HelpBubble, OpensBesideItsButton) {
     EXPECT_EQ(desktop_.windowRect(windowId("VXHelpWindow")), bubble());
 }
 
-TEST_F(HelpBubble, AnyKeyClosesItAndReachesNobody) {
+TEST_F(DesktopHelpBubble, AnyKeyClosesItAndReachesNobody) {
     start();
     open();
     Hand::keys({"a"});
@@ -45,7 +45,7 @@ TEST_F(HelpBubble, AnyKeyClosesItAndReachesNobody) {
     waitUntil("the letter after it is typed", [this] { return nameIs("x"); });
 }
 
-TEST_F(HelpBubble, EscapeClosesIt) {
+TEST_F(DesktopHelpBubble, EscapeClosesIt) {
     start();
     open();
     Hand::keys({"Escape"});
@@ -53,7 +53,7 @@ TEST_F(HelpBubble, EscapeClosesIt) {
     EXPECT_TRUE(hasWindow("MainWindow"));
 }
 
-TEST_F(HelpBubble, ShortcutClosesItWithoutItsAction) {
+TEST_F(DesktopHelpBubble, ShortcutClosesItWithoutItsAction) {
     startWithSongs(2);
     open();
     Hand::keys({"alt+l"}); // Clears the list, at other times.
@@ -65,7 +65,7 @@ TEST_F(HelpBubble, ShortcutClosesItWithoutItsAction) {
     waitForList({});
 }
 
-TEST_F(HelpBubble, ModifierAloneDoesNotCloseIt) {
+TEST_F(DesktopHelpBubble, ModifierAloneDoesNotCloseIt) {
     start();
     open();
     Hand::keys({"Shift_L", "Control_L", "Alt_L", "Super_L"});
@@ -74,7 +74,7 @@ TEST_F(HelpBubble, ModifierAloneDoesNotCloseIt) {
     waitUntilClosed();
 }
 
-TEST_F(HelpBubble, ClickOutsideClosesItAndPressesNothing) {
+TEST_F(DesktopHelpBubble, ClickOutsideClosesItAndPressesNothing) {
     startWithSongs(2);
     open();
     Hand::clickAt(middleOf("_btnClear"));
@@ -86,7 +86,7 @@ TEST_F(HelpBubble, ClickOutsideClosesItAndPressesNothing) {
     waitForList({});
 }
 
-TEST_F(HelpBubble, RightClickOutsideClosesItWithoutAMenu) {
+TEST_F(DesktopHelpBubble, RightClickOutsideClosesItWithoutAMenu) {
     start();
     open();
     Hand::clickAt(middleOf("_volumeName"), 3);
@@ -95,7 +95,7 @@ TEST_F(HelpBubble, RightClickOutsideClosesItWithoutAMenu) {
     waitUntil("the field has the keyboard", [this] { return nameIs("x"); });
 }
 
-TEST_F(HelpBubble, ClickOnItsButtonOnlyClosesIt) {
+TEST_F(DesktopHelpBubble, ClickOnItsButtonOnlyClosesIt) {
     start();
     open();
     Hand::clickAt(middleOf("_btnHelp"));
@@ -106,7 +106,7 @@ TEST_F(HelpBubble, ClickOnItsButtonOnlyClosesIt) {
     open();
 }
 
-TEST_F(HelpBubble, ClickInsideKeepsItOpen) {
+TEST_F(DesktopHelpBubble, ClickInsideKeepsItOpen) {
     start();
     open();
     Hand::clickAt(bubble().center());
@@ -116,7 +116,7 @@ TEST_F(HelpBubble, ClickInsideKeepsItOpen) {
     waitUntilClosed();
 }
 
-TEST_F(HelpBubble, WheelDoesNothingWhileItIsOpen) {
+TEST_F(DesktopHelpBubble, WheelDoesNothingWhileItIsOpen) {
     startWithSongs(40);
     open();
     const int top = rectOfRow(0).top();
@@ -130,7 +130,7 @@ TEST_F(HelpBubble, WheelDoesNothingWhileItIsOpen) {
     waitUntil("the list scrolls again", [&] { return rectOfRow(0).top() < top; });
 }
 
-TEST_F(HelpBubble, AnotherProgramThatBecomesActiveClosesIt) {
+TEST_F(DesktopHelpBubble, AnotherProgramThatBecomesActiveClosesIt) {
     start();
     startNeighbour();
     open();
@@ -139,7 +139,7 @@ TEST_F(HelpBubble, AnotherProgramThatBecomesActiveClosesIt) {
     waitUntilClosed();
 }
 
-TEST_F(HelpBubble, OpensWhenNoDriveIsFound) {
+TEST_F(DesktopHelpBubble, OpensWhenNoDriveIsFound) {
     startWithoutDrive();
     EXPECT_TRUE(isVisible("_txtNoneDevice"));
     open();
@@ -148,7 +148,7 @@ TEST_F(HelpBubble, OpensWhenNoDriveIsFound) {
     waitUntilClosed();
 }
 
-TEST_F(HelpBubble, StaysOnTheScreenNearItsCorner) {
+TEST_F(DesktopHelpBubble, StaysOnTheScreenNearItsCorner) {
     start();
     moveWindow({Desktop::size.width() - 640, Desktop::size.height() - 160});
     open();
@@ -156,7 +156,7 @@ TEST_F(HelpBubble, StaysOnTheScreenNearItsCorner) {
     EXPECT_EQ(bubble().right(), Desktop::size.width() - 1);
 }
 
-TEST_F(HelpBubble, StaysOnTheMonitorThatItsButtonIsOn) {
+TEST_F(DesktopHelpBubble, StaysOnTheMonitorThatItsButtonIsOn) {
     const int middle = Desktop::size.width() / 2;
     desktop_.splitIntoTwoMonitors();
     start();

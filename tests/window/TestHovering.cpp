@@ -8,7 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class Hovering : public WindowTest {
+class DesktopHovering : public WindowTest {
 protected:
     /// The row that the button stands over; -1 while it is hidden.
     int buttonRow() {
@@ -34,7 +34,7 @@ protected:
     int hides() { return state()["hides"].toInt(); }
 };
 
-TEST_F(Hovering, ButtonComesOverTheRowUnderThePointer) {
+TEST_F(DesktopHovering, ButtonComesOverTheRowUnderThePointer) {
     startWithSongs(3);
     EXPECT_EQ(buttonRow(), -1);
     Hand::moveTo(pointInRow(1));
@@ -48,7 +48,7 @@ TEST_F(Hovering, ButtonComesOverTheRowUnderThePointer) {
     waitForButton(2);
 }
 
-TEST_F(Hovering, ButtonGoesWithThePointer) {
+TEST_F(DesktopHovering, ButtonGoesWithThePointer) {
     startWithSongs(3);
     Hand::moveTo(pointInRow(1));
     waitForButton(1);
@@ -60,7 +60,7 @@ TEST_F(Hovering, ButtonGoesWithThePointer) {
     waitForButton(-1);
 }
 
-TEST_F(Hovering, ButtonDoesNotFlickerWhenThePointerEntersIt) {
+TEST_F(DesktopHovering, ButtonDoesNotFlickerWhenThePointerEntersIt) {
     startWithSongs(3);
     Hand::moveTo(pointInRow(1));
     waitForButton(1);
@@ -76,7 +76,7 @@ TEST_F(Hovering, ButtonDoesNotFlickerWhenThePointerEntersIt) {
     EXPECT_EQ(hides(), hidden);
 }
 
-TEST_F(Hovering, ClickRemovesTheRowAndNotTheSelectedOnes) {
+TEST_F(DesktopHovering, ClickRemovesTheRowAndNotTheSelectedOnes) {
     startWithSongs(4);
     Hand::clickAt(pointInRow(3));
     waitForSelection({3});
@@ -87,7 +87,7 @@ TEST_F(Hovering, ClickRemovesTheRowAndNotTheSelectedOnes) {
     waitForButton(1);
 }
 
-TEST_F(Hovering, TwoClicksOnTheSpotRemoveTwoRows) {
+TEST_F(DesktopHovering, TwoClicksOnTheSpotRemoveTwoRows) {
     startWithSongs(4);
     Hand::moveTo(pointInRow(1));
     waitForButton(1);
@@ -97,7 +97,7 @@ TEST_F(Hovering, TwoClicksOnTheSpotRemoveTwoRows) {
     waitForList({"song 01", "song 04"});
 }
 
-TEST_F(Hovering, ClickOverTheLastRowHidesTheButton) {
+TEST_F(DesktopHovering, ClickOverTheLastRowHidesTheButton) {
     startWithSongs(2);
     Hand::moveTo(pointInRow(1));
     waitForButton(1);
@@ -106,7 +106,7 @@ TEST_F(Hovering, ClickOverTheLastRowHidesTheButton) {
     waitForButton(-1);
 }
 
-TEST_F(Hovering, ScrollUnderTheRestingPointerMovesTheButtonToTheRowBelowIt) {
+TEST_F(DesktopHovering, ScrollUnderTheRestingPointerMovesTheButtonToTheRowBelowIt) {
     startWithSongs(40);
     const QPoint place = pointInRow(2);
     Hand::moveTo(place);
@@ -121,7 +121,7 @@ TEST_F(Hovering, ScrollUnderTheRestingPointerMovesTheButtonToTheRowBelowIt) {
     EXPECT_THAT(list(), testing::Not(testing::Contains(under)));
 }
 
-TEST_F(Hovering, OnlyTheActiveWindowHasTheButton) {
+TEST_F(DesktopHovering, OnlyTheActiveWindowHasTheButton) {
     startWithSongs(3);
     startNeighbour();
     Hand::moveTo(pointInRow(1));
@@ -137,7 +137,7 @@ TEST_F(Hovering, OnlyTheActiveWindowHasTheButton) {
     waitForButton(0); // Without the pointer having moved again.
 }
 
-TEST_F(Hovering, ClickOnTheButtonOfAListThatWasEmptiedDoesNothing) {
+TEST_F(DesktopHovering, ClickOnTheButtonOfAListThatWasEmptiedDoesNothing) {
     startWithSongs(2);
     Hand::clickAt(pointInRow(0));
     waitForButton(0);
@@ -150,7 +150,7 @@ TEST_F(Hovering, ClickOnTheButtonOfAListThatWasEmptiedDoesNothing) {
     EXPECT_THAT(list(), ElementsAre());
 }
 
-TEST_F(Hovering, DeleteKeyBringsTheButtonToTheRowThatMovedUp) {
+TEST_F(DesktopHovering, DeleteKeyBringsTheButtonToTheRowThatMovedUp) {
     startWithSongs(4);
     Hand::clickAt(pointInRow(1));
     waitForSelection({1});

@@ -6,7 +6,7 @@
 
 namespace {
 
-class ListKeys : public WindowTest {
+class DesktopListKeys : public WindowTest {
 protected:
     /// A list with the focus and its first row selected.
     void startInList(int songs) {
@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ListKeys, UpAndDownSelectTheNextRow) {
+TEST_F(DesktopListKeys, UpAndDownSelectTheNextRow) {
     startInList(3);
     Hand::keys({"Down", "Down"});
     waitForSelection({2});
@@ -24,7 +24,7 @@ TEST_F(ListKeys, UpAndDownSelectTheNextRow) {
     waitForSelection({1});
 }
 
-TEST_F(ListKeys, ShiftSelectsARange) {
+TEST_F(DesktopListKeys, ShiftSelectsARange) {
     startInList(5);
     Hand::keys({"Down", "shift+Down", "shift+Down"});
     waitForSelection({1, 2, 3});
@@ -32,13 +32,13 @@ TEST_F(ListKeys, ShiftSelectsARange) {
     waitForSelection({1, 2});
 }
 
-TEST_F(ListKeys, ControlMovesOnAndSpaceAdds) {
+TEST_F(DesktopListKeys, ControlMovesOnAndSpaceAdds) {
     startInList(4);
     Hand::keys({"ctrl+Down", "ctrl+Down", "ctrl+space"});
     waitForSelection({0, 2});
 }
 
-TEST_F(ListKeys, ControlAndAClickAddARow) {
+TEST_F(DesktopListKeys, ControlAndAClickAddARow) {
     startInList(4);
     Hand::keyDown("ctrl");
     Hand::clickAt(pointInRow(3));
@@ -46,27 +46,27 @@ TEST_F(ListKeys, ControlAndAClickAddARow) {
     waitForSelection({0, 3});
 }
 
-TEST_F(ListKeys, ControlASelectsEverything) {
+TEST_F(DesktopListKeys, ControlASelectsEverything) {
     startInList(3);
     Hand::keys({"ctrl+a"});
     waitForSelection({0, 1, 2});
 }
 
-TEST_F(ListKeys, DeleteRemovesTheSelectedRowsAndSelectsTheNext) {
+TEST_F(DesktopListKeys, DeleteRemovesTheSelectedRowsAndSelectsTheNext) {
     startInList(5);
     Hand::keys({"Down", "shift+Down", "Delete"});
     waitForList({"song 01", "song 04", "song 05"});
     waitForSelection({1});
 }
 
-TEST_F(ListKeys, BackspaceRemovesAndAtTheEndSelectsTheNewLastRow) {
+TEST_F(DesktopListKeys, BackspaceRemovesAndAtTheEndSelectsTheNewLastRow) {
     startInList(3);
     Hand::keys({"End", "shift+Up", "BackSpace"});
     waitForList({"song 01"});
     waitForSelection({0});
 }
 
-TEST_F(ListKeys, AltAndArrowsMoveTheSelectedRows) {
+TEST_F(DesktopListKeys, AltAndArrowsMoveTheSelectedRows) {
     startInList(4);
     Hand::keys({"shift+Down", "alt+Down"});
     waitForList({"song 03", "song 01", "song 02", "song 04"});
@@ -78,7 +78,7 @@ TEST_F(ListKeys, AltAndArrowsMoveTheSelectedRows) {
     waitForList({"song 03", "song 01", "song 02", "song 04"});
 }
 
-TEST_F(ListKeys, AltAndArrowGathersRowsThatStandApart) {
+TEST_F(DesktopListKeys, AltAndArrowGathersRowsThatStandApart) {
     startInList(4);
     Hand::keys({"ctrl+Down", "ctrl+Down", "ctrl+space"});
     waitForSelection({0, 2});

@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-class Reordering : public WindowTest {
+class DesktopReordering : public WindowTest {
 protected:
     /// In the row's lower half: what is dropped here goes below it.
     QPoint below(int row) {
@@ -39,21 +39,21 @@ protected:
     }
 };
 
-TEST_F(Reordering, RowDroppedBelowAnotherStandsThereAndIsSelected) {
+TEST_F(DesktopReordering, RowDroppedBelowAnotherStandsThereAndIsSelected) {
     startWithSongs(4);
     drag(0, below(2));
     waitForList({"song 02", "song 03", "song 01", "song 04"});
     waitForSelection({2});
 }
 
-TEST_F(Reordering, RowDroppedAboveAnotherStandsThere) {
+TEST_F(DesktopReordering, RowDroppedAboveAnotherStandsThere) {
     startWithSongs(4);
     drag(3, above(1));
     waitForList({"song 01", "song 04", "song 02", "song 03"});
     waitForSelection({1});
 }
 
-TEST_F(Reordering, SelectedRowsMoveTogether) {
+TEST_F(DesktopReordering, SelectedRowsMoveTogether) {
     startWithSongs(5);
     selectFromTo(1, 2);
     waitForSelection({1, 2});
@@ -62,7 +62,7 @@ TEST_F(Reordering, SelectedRowsMoveTogether) {
     waitForSelection({3, 4});
 }
 
-TEST_F(Reordering, RowDroppedInTheEmptyPartGoesToTheEnd) {
+TEST_F(DesktopReordering, RowDroppedInTheEmptyPartGoesToTheEnd) {
     startWithSongs(3);
     const QRect list = rectOf("_filesTableView");
     drag(0, {list.center().x(), list.bottom() - 10});
@@ -70,14 +70,14 @@ TEST_F(Reordering, RowDroppedInTheEmptyPartGoesToTheEnd) {
     waitForSelection({2});
 }
 
-TEST_F(Reordering, RowDroppedOnItselfStaysAndIsSelected) {
+TEST_F(DesktopReordering, RowDroppedOnItselfStaysAndIsSelected) {
     startWithSongs(3);
     drag(1, below(1));
     EXPECT_THAT(list(), ElementsAre("song 01", "song 02", "song 03"));
     waitForSelection({1});
 }
 
-TEST_F(Reordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
+TEST_F(DesktopReordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
     startWithSongs(4);
     const auto before = borderBelow(2);
     dragInHost(pointInRow(0), below(2), Answer::taken);
@@ -95,7 +95,7 @@ TEST_F(Reordering, LineShowsWhereRowsWouldLandAndGoesWithTheDrop) {
     waitUntil("no line is left", [this, &before] { return borderBelow(2) == before; });
 }
 
-TEST_F(Reordering, EscapeDuringTheDragLeavesTheListAlone) {
+TEST_F(DesktopReordering, EscapeDuringTheDragLeavesTheListAlone) {
     startWithSongs(3);
     dragInHost(pointInRow(0), below(2), Answer::taken);
     Hand::keys({"Escape"});

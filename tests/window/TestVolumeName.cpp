@@ -4,7 +4,7 @@
 
 namespace {
 
-class VolumeName : public WindowTest {
+class DesktopVolumeName : public WindowTest {
 protected:
     QString name() { return text("_volumeName"); }
 
@@ -29,7 +29,7 @@ protected:
     const std::string fiftyLetters_ = "abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwx";
 };
 
-TEST_F(VolumeName, BlankDiscOffersUntitledForTypingOver) {
+TEST_F(DesktopVolumeName, BlankDiscOffersUntitledForTypingOver) {
     start();
     EXPECT_EQ(focus(), QLatin1String("_volumeName"));
     EXPECT_EQ(widget("_volumeName")["selected"], QLatin1String("Untitled"));
@@ -37,7 +37,7 @@ TEST_F(VolumeName, BlankDiscOffersUntitledForTypingOver) {
     waitForName("Mix");
 }
 
-TEST_F(VolumeName, TypingStopsAtFifty) {
+TEST_F(DesktopVolumeName, TypingStopsAtFifty) {
     start();
     clearVolumeName();
     Hand::type(fiftyLetters_ + "more");
@@ -45,14 +45,14 @@ TEST_F(VolumeName, TypingStopsAtFifty) {
     waitForName(fiftyLetters_.substr(0, 49));
 }
 
-TEST_F(VolumeName, KeystrokeInTheMiddleOfAFullNameIsLost) {
+TEST_F(DesktopVolumeName, KeystrokeInTheMiddleOfAFullNameIsLost) {
     start();
     typeName(fiftyLetters_);
     Hand::keys({"Home", "Right", "X", "Right", "Delete"});
     waitForName(fiftyLetters_.substr(0, 2) + fiftyLetters_.substr(3));
 }
 
-TEST_F(VolumeName, PasteAtTheEndThatIsTooLongIsRefusedWhole) {
+TEST_F(DesktopVolumeName, PasteAtTheEndThatIsTooLongIsRefusedWhole) {
     start();
     putOnClipboard("0123456789");
     typeName(fiftyLetters_.substr(0, 45));
@@ -60,7 +60,7 @@ TEST_F(VolumeName, PasteAtTheEndThatIsTooLongIsRefusedWhole) {
     waitForName(fiftyLetters_.substr(0, 45) + "!");
 }
 
-TEST_F(VolumeName, PasteInTheMiddleIsCutAndUndoneAsOne) {
+TEST_F(DesktopVolumeName, PasteInTheMiddleIsCutAndUndoneAsOne) {
     start();
     putOnClipboard("0123456789");
     typeName(fiftyLetters_.substr(0, 45));
@@ -70,14 +70,14 @@ TEST_F(VolumeName, PasteInTheMiddleIsCutAndUndoneAsOne) {
     waitForName(fiftyLetters_.substr(0, 45));
 }
 
-TEST_F(VolumeName, CopyAndPasteInsideTheField) {
+TEST_F(DesktopVolumeName, CopyAndPasteInsideTheField) {
     start();
     typeName("ab");
     Hand::keys({"ctrl+a", "ctrl+c", "End", "ctrl+v", "ctrl+v"});
     waitForName("ababab");
 }
 
-TEST_F(VolumeName, UndoTakesBackWhatWasTypedAndRedoBringsItBack) {
+TEST_F(DesktopVolumeName, UndoTakesBackWhatWasTypedAndRedoBringsItBack) {
     start();
     typeName("one");
     Hand::keys({"ctrl+z"});
@@ -86,7 +86,7 @@ TEST_F(VolumeName, UndoTakesBackWhatWasTypedAndRedoBringsItBack) {
     waitForName("one");
 }
 
-TEST_F(VolumeName, UndoGoesOnBehindARefusedEdit) {
+TEST_F(DesktopVolumeName, UndoGoesOnBehindARefusedEdit) {
     start();
     typeName(fiftyLetters_);
     Hand::keys({"ctrl+a"});
@@ -99,7 +99,7 @@ TEST_F(VolumeName, UndoGoesOnBehindARefusedEdit) {
               [this] { return name().toStdString() != fiftyLetters_; });
 }
 
-TEST_F(VolumeName, TextOfAnotherProgramCanBeDroppedIntoIt) {
+TEST_F(DesktopVolumeName, TextOfAnotherProgramCanBeDroppedIntoIt) {
     start();
     startNeighbour();
     clearVolumeName();
@@ -108,7 +108,7 @@ TEST_F(VolumeName, TextOfAnotherProgramCanBeDroppedIntoIt) {
     waitForName("dropped");
 }
 
-TEST_F(VolumeName, DroppedTextIsCutAtFifty) {
+TEST_F(DesktopVolumeName, DroppedTextIsCutAtFifty) {
     start();
     startNeighbour();
     typeName(fiftyLetters_.substr(0, 45));

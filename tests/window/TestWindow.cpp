@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Window : public WindowTest {
+class DesktopWindow : public WindowTest {
 protected:
     bool isSheetUp() { return hasWindow("ProgressWindow"); }
 
@@ -50,7 +50,7 @@ protected:
     }
 };
 
-TEST_F(Window, CannotBeMadeSmallerThanItsContent) {
+TEST_F(DesktopWindow, CannotBeMadeSmallerThanItsContent) {
     startWithSongs(3);
     const QJsonObject needed = part("windows")["MainWindow"].toObject()["content"].toObject();
     Hand::run({"windowsize", std::to_string(windowId("MainWindow")), "120", "90"});
@@ -67,7 +67,7 @@ TEST_F(Window, CannotBeMadeSmallerThanItsContent) {
     EXPECT_GE(rectOf("_filesTableView").height(), 3 * rectOfRow(0).height());
 }
 
-TEST_F(Window, TabReachesEachControlInTheOrderOfTheWindow) {
+TEST_F(DesktopWindow, TabReachesEachControlInTheOrderOfTheWindow) {
     startWithSongs(1);
     std::vector<std::string> reached;
     for (int step = 0; step < 8; ++step) {
@@ -82,7 +82,7 @@ TEST_F(Window, TabReachesEachControlInTheOrderOfTheWindow) {
     waitUntil("Shift goes back", [this] { return focus() == QLatin1String("_cdTypePopup"); });
 }
 
-TEST_F(Window, MnemonicsReachTheirControls) {
+TEST_F(DesktopWindow, MnemonicsReachTheirControls) {
     startWithSongs(1);
     Hand::keys({"alt+d"});
     waitUntil("the drives", [this] { return focus() == QLatin1String("_devicePopup"); });
@@ -92,7 +92,7 @@ TEST_F(Window, MnemonicsReachTheirControls) {
     waitForList({});
 }
 
-TEST_F(Window, FilesCanBeAddedAndBurnedByMouseAndKeyboardAlone) {
+TEST_F(DesktopWindow, FilesCanBeAddedAndBurnedByMouseAndKeyboardAlone) {
     start();
     startNeighbour();
     offer({{"text/uri-list", address(song("one")) + address(song("two"))}});
@@ -112,7 +112,7 @@ TEST_F(Window, FilesCanBeAddedAndBurnedByMouseAndKeyboardAlone) {
     EXPECT_THAT(sheet, testing::HasSubstr("TRACK 02 AUDIO"));
 }
 
-TEST_F(Window, DataDiscCanBeChosenAndBurnedByKeyboard) {
+TEST_F(DesktopWindow, DataDiscCanBeChosenAndBurnedByKeyboard) {
     start();
     startNeighbour();
     Hand::keys({"shift+Tab", "Down"});
@@ -131,7 +131,7 @@ TEST_F(Window, DataDiscCanBeChosenAndBurnedByKeyboard) {
     waitUntil("the sheet is gone", [this] { return !isSheetUp(); });
 }
 
-TEST_F(Window, CloseBoxAsksWhileTheSheetIsUp) {
+TEST_F(DesktopWindow, CloseBoxAsksWhileTheSheetIsUp) {
     startLongBurn();
     desktop_.closeWindow(windowId("MainWindow"));
     clickAlertButton("No");
@@ -143,7 +143,7 @@ TEST_F(Window, CloseBoxAsksWhileTheSheetIsUp) {
     EXPECT_TRUE(hasWindow("crateWindow"));
 }
 
-TEST_F(Window, CancelOfTheSheetAsksAndStops) {
+TEST_F(DesktopWindow, CancelOfTheSheetAsksAndStops) {
     startLongBurn();
     Hand::clickAt(middleOf("btnCancel"));
     clickAlertButton("Yes");
@@ -152,7 +152,7 @@ TEST_F(Window, CancelOfTheSheetAsksAndStops) {
     EXPECT_EQ(list().size(), 1U);
 }
 
-TEST_F(Window, ReturnOnTheSheetDoesNotCancelABurn) {
+TEST_F(DesktopWindow, ReturnOnTheSheetDoesNotCancelABurn) {
     startLongBurn();
     Hand::keys({"Return"});
     Hand::keys({"Escape"}); // This one asks; so the one before has been dealt with.
@@ -161,7 +161,7 @@ TEST_F(Window, ReturnOnTheSheetDoesNotCancelABurn) {
     EXPECT_TRUE(part("alert").isEmpty());
 }
 
-TEST_F(Window, ControlsBehindTheSheetAreDead) {
+TEST_F(DesktopWindow, ControlsBehindTheSheetAreDead) {
     startLongBurn();
     moveWindow({1000, 300}); // From under the sheet.
     Hand::clickAt(middleOf("_btnClear"));
@@ -172,7 +172,7 @@ TEST_F(Window, ControlsBehindTheSheetAreDead) {
     EXPECT_FALSE(hasWindow("VXHelpWindow"));
 }
 
-TEST_F(Window, DropBehindTheSheetIsRefused) {
+TEST_F(DesktopWindow, DropBehindTheSheetIsRefused) {
     startLongBurn();
     startNeighbourBeside();
     offer({{"text/uri-list", address(song("late"))}});
@@ -180,7 +180,7 @@ TEST_F(Window, DropBehindTheSheetIsRefused) {
     EXPECT_EQ(list().size(), 1U);
 }
 
-TEST_F(Window, ClosingAnIdleWindowLeavesTheHostAlone) {
+TEST_F(DesktopWindow, ClosingAnIdleWindowLeavesTheHostAlone) {
     start();
     desktop_.closeWindow(windowId("MainWindow"));
     waitUntil("the tool's window is gone", [this] { return !hasWindow("MainWindow"); });
@@ -188,7 +188,7 @@ TEST_F(Window, ClosingAnIdleWindowLeavesTheHostAlone) {
               [this] { return state()["active"] == QLatin1String("crateWindow"); });
 }
 
-TEST_F(Window, KeyboardIsBackAfterFilesWereAdded) {
+TEST_F(DesktopWindow, KeyboardIsBackAfterFilesWereAdded) {
     start();
     startNeighbour();
     offer({{"text/uri-list", address(song("one"))}});
