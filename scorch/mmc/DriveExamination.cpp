@@ -17,29 +17,29 @@ Result<MediaEvent, MmcError> eventFromReadiness(MmcDevice &device,
                                                 const std::optional<MediaEvent> &before) {
     constexpr std::uint8_t notReady = 2;
     constexpr std::uint8_t unitAttention = 6;
+    constexpr std::uint8_t noMedium = 0x3A;
+    constexpr std::uint8_t trayOpen = 0x02;
     Result<void, MmcError> ready = testUnitReady(device);
     const bool isAttention = !ready && isSense(ready.error(), unitAttention);
     if (isAttention) {
         ready = testUnitReady(device);
     }
-    MediaEvent event{.changed = isAttention, .trayOpen = false, .mediumPresent = ready.ok()};
-    if (!ready) {
-        const MmcError &error = ready.error();
-        if (!isSense(error, notReady)) {
-            return error;
-        }
-        event.mediumPresent = error.sense.asc != 0x3A;
-        event.trayOpen = error.sense.asc == 0x3A && error.sense.ascq == 0x02;
+    if (!ready && ready.error().kind != MmcError::Kind::sense) {
+        return ready.error();
     }
+    const bool isEmpty =
+        !ready && isSense(ready.error(), notReady) && ready.error().sense.asc == noMedium;
+    MediaEvent event{.changed = isAttention,
+                     .trayOpen = isEmpty && ready.error().sense.ascq == trayOpen,
+                     .mediumPresent = !isEmpty};
     event.changed |= before && before->mediumPresent != event.mediumPresent;
     return event;
 }
 
 Result<MediaEvent, MmcError> mediaEvent(MmcDevice &device,
                                         const std::optional<MediaEvent> &before) {
-    constexpr std::uint8_t illegalRequest = 5;
     Result<MediaEvent, MmcError> event = readMediaEvent(device);
-    if (!event && isSense(event.error(), illegalRequest)) {
+    if (!event && event.error().kind == MmcError::Kind::sense) {
         return eventFromReadiness(device, before);
     }
     if (event && before) {
@@ -71,7 +71,7 @@ DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &st
         return findings;
     }
     const Result<MediaEvent, MmcError> event = mediaEvent(*device, std::nullopt);
-    if (!event) { // Nothing that a working drive refuses.
+    if (!event) {
         fail(findings, drive, event.error());
         return findings;
     }

@@ -37,6 +37,7 @@ OpticalDriveSource::~OpticalDriveSource() {
 }
 
 std::vector<std::shared_ptr<Drive>> OpticalDriveSource::search(Observer observer) {
+    const std::lock_guard searching(searching_);
     observer_ = std::move(observer);
     watcher_ = makeWatcher_();
     const std::vector<FoundDevice> found = watcher_->search(
@@ -66,11 +67,13 @@ std::shared_ptr<OpticalDrive> OpticalDriveSource::add(const FoundDevice &device)
 }
 
 void OpticalDriveSource::appeared(const FoundDevice &device) {
+    awaitSearch();
     releaseEnded();
     observer_.appeared(add(device));
 }
 
 void OpticalDriveSource::disappeared(const std::filesystem::path &node) {
+    awaitSearch();
     std::shared_ptr<OpticalDrive> drive;
     {
         const std::lock_guard lock(mutex_);

@@ -32,11 +32,13 @@ private:
     void disappeared(const std::filesystem::path &node);
     void mediumChanged(const std::filesystem::path &node, MediumNews news);
     void releaseEnded();
+    void awaitSearch() { const std::lock_guard lock(searching_); }
 
     const MakeWatcher makeWatcher_;
     OpticalDriveServices services_;
     Observer observer_;
-    std::mutex mutex_; ///< Guards both lists.
+    std::mutex searching_; ///< Held by the search: what happens meanwhile is told after it.
+    std::mutex mutex_;     ///< Guards both lists.
     std::vector<std::shared_ptr<OpticalDrive>> drives_;
     /// Drives that have gone, until their threads have noticed: nobody else may have to wait.
     std::vector<std::shared_ptr<OpticalDrive>> gone_;
