@@ -180,7 +180,7 @@ TEST(TableRows, TellTheirWholeNameOnlyWhereItIsCut) {
         QWidget *const area = fixture.table.viewport();
         QHelpEvent event(QEvent::ToolTip, point, area->mapToGlobal(point));
         QApplication::sendEvent(area, &event);
-        const QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
+        QString tip = QToolTip::isVisible() ? QToolTip::text() : QString();
         QToolTip::hideText();
         return tip;
     };
