@@ -12,8 +12,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
-#include <algorithm>
-
 namespace {
 
 /// A bar that is read, never set: its value in percent.
@@ -87,7 +85,7 @@ void installAccessibleViews() {
 }
 
 void announce(QWidget *view) {
-    if (view->isVisible()) {
+    if (QAccessible::isActive() && view->isVisible()) {
         // A notification that comes into sight is what screen readers speak of by themselves.
         QAccessibleEvent shown(view, QAccessible::ObjectShow);
         QAccessible::updateAccessibility(&shown);

@@ -160,7 +160,7 @@ int CapacityView::percent() const {
 
 void CapacityView::reportPercent() {
     // Here and not with each maximum: the two are set one after the other.
-    if (percent() != reportedPercent_) {
+    if (percent() != reportedPercent_ && QAccessible::isActive()) {
         reportedPercent_ = percent();
         QAccessibleValueChangeEvent changed(this, reportedPercent_);
         QAccessible::updateAccessibility(&changed);

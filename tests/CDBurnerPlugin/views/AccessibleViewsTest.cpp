@@ -25,14 +25,16 @@ using testing::Not;
 using testing::SizeIs;
 
 QAccessibleInterface *interfaceOf(QWidget *view) {
-    installAccessibleViews();
     return QAccessible::queryAccessibleInterface(view);
 }
 
-class AnnouncingSheet : public testing::Test {
+class AccessibleView : public testing::Test {
 protected:
-    static void SetUpTestSuite() { installAccessibleViews(); }
+    static void SetUpTestSuite() { installAccessibleViews(); } // Before the first view is made.
+};
 
+class AnnouncingSheet : public AccessibleView {
+protected:
     AnnouncingSheet() {
         showActive(main_);
         sheet_.setType(ProgressWindow::burningType);
@@ -107,7 +109,7 @@ TEST_F(AnnouncingSheet, TellsWhatItShowsBetweenAnnouncements) {
     EXPECT_EQ(interfaceOf(bar())->valueInterface()->currentValue().toInt(), 52);
 }
 
-TEST(AccessibleCapacity, IsABarOfPercents) {
+TEST_F(AccessibleView, CapacityIsABarOfPercents) {
     CapacityView bar;
     bar.setMaxValue(4000);
     bar.setDoubleValue(1000);
@@ -122,14 +124,14 @@ TEST(AccessibleCapacity, IsABarOfPercents) {
     EXPECT_EQ(bar.percent(), 0);
 }
 
-TEST(AccessibleTips, AreANotification) {
+TEST_F(AccessibleView, TipsAreANotification) {
     ErrorTipsView tips;
     tips.setErrorTips(QStringLiteral("Checking disk..."));
     EXPECT_EQ(interfaceOf(&tips)->role(), QAccessible::Notification);
     EXPECT_EQ(interfaceOf(&tips)->text(QAccessible::Name), QStringLiteral("Checking disk..."));
 }
 
-TEST(AccessibleHelp, IsANotificationOfPlainText) {
+TEST_F(AccessibleView, HelpIsANotificationOfPlainText) {
     VXHelpWindow help;
     auto *bubble = help.findChild<VXHelpView *>();
     EXPECT_EQ(interfaceOf(bubble)->role(), QAccessible::Notification);
@@ -138,12 +140,12 @@ TEST(AccessibleHelp, IsANotificationOfPlainText) {
     EXPECT_THAT(text, Not(HasSubstr("<")));
 }
 
-TEST(AccessiblePicture, IsAPicture) {
+TEST_F(AccessibleView, DropTargetIsAPicture) {
     VXDragImageView picture;
     EXPECT_EQ(interfaceOf(&picture)->role(), QAccessible::Graphic);
 }
 
-TEST(AccessibleTable, RowIsReadByTheCellOfItsName) {
+TEST_F(AccessibleView, RowIsReadByTheCellOfItsName) {
     const TableFixture fixture(1);
     const auto *model = fixture.table.filesModel();
     EXPECT_EQ(model->index(0, 0).data(Qt::AccessibleTextRole).toString(),
