@@ -32,7 +32,8 @@ Outcome<> LibburnRun::write(const std::optional<CdText> &text, int speed,
     follow(stop);
     auto ended = result();
     const std::vector<LibburnMessage> errors = parts_.inbox.errors();
-    wasTextRefused_ = !ended && !reason_ && text && parts_.ring->bytesTaken() == 0 &&
+    wasTextRefused_ = !ended && !reason_ && !wasGivenUp_ && text &&
+                      parts_.ring->bytesTaken() == 0 &&
                       std::any_of(errors.begin(), errors.end(), isCueSheetRefusal);
     return ended;
 }
@@ -46,8 +47,8 @@ Outcome<> LibburnRun::start(const std::optional<CdText> &text, int speed,
         bool isIdle = true;
         const bool didRun = parts_.thread.run([&] {
             parts_.inbox.clear();
-            start = parts_.session->write(parts_.plan, text, speed, parts_.ring);
-            isIdle = parts_.session->isIdle();
+            start = parts_.session.write(parts_.plan, text, speed, parts_.ring);
+            isIdle = parts_.session.isIdle();
         });
         if (!didRun || start == LibburnSession::Start::impossible) {
             wasTextRefused_ = didRun && text.has_value();
@@ -108,7 +109,7 @@ void LibburnRun::feed(const std::stop_token &stop) {
 
 void LibburnRun::watch() {
     looked_ = Clock::now();
-    parts_.thread.run([this] { isIdle_ = parts_.session->isIdle(); });
+    parts_.thread.run([this] { isIdle_ = parts_.session.isIdle(); });
     const std::uint64_t taken = parts_.ring->bytesTaken();
     parts_.stages.reached(static_cast<std::int64_t>(taken / parts_.plan.bytesPerSector()));
     if (taken != takenBefore_) {
@@ -120,10 +121,7 @@ void LibburnRun::watch() {
     }
     const auto quiet = looked_ - progressed_;
     if (isBrokenOff_) {
-        if (quiet > parts_.patience.rest) {
-            wasGivenUp_ = true;
-            parts_.thread.leave(parts_.session);
-        }
+        wasGivenUp_ = quiet > parts_.patience.rest;
     } else if (parts_.inbox.hasFailure()) {
         breakOff(std::nullopt); // libburn goes on where a drive does not answer.
     } else if (quiet > parts_.patience.progress) {
@@ -146,7 +144,7 @@ void LibburnRun::pause() {
 void LibburnRun::breakOff(std::optional<Interruption> reason) {
     isBrokenOff_ = true;
     reason_ = std::move(reason);
-    parts_.thread.run([this] { parts_.session->cancel(); });
+    parts_.thread.run([this] { parts_.session.cancel(); });
     parts_.ring->abort();
     progressed_ = Clock::now();
 }
@@ -166,8 +164,8 @@ Outcome<> LibburnRun::result() {
     bool isWell = false;
     std::vector<TrackCounters> counters;
     parts_.thread.run([&] {
-        isWell = parts_.session->wroteWell();
-        counters = parts_.session->counters();
+        isWell = parts_.session.wroteWell();
+        counters = parts_.session.counters();
     });
     if (!isWell || parts_.inbox.hasFailure()) {
         return Interruption(errorOfDrive());

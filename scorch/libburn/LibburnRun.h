@@ -35,7 +35,7 @@ class LibburnRun {
 public:
     struct Parts {
         LibburnThread &thread;
-        std::shared_ptr<LibburnSession> session;
+        LibburnSession &session;
         MessageInbox &inbox;
         std::shared_ptr<SectorRing> ring;
         ContentPump &pump;
@@ -53,7 +53,8 @@ public:
 
     /// The drive refused a plan with texts before it took any sector: it may take one without.
     bool wasTextRefused() const { return wasTextRefused_; }
-    /// The drive did not come to rest: libburn's thread still uses the session.
+    /// The drive did not come to rest: libburn still uses the session, which must be left to its
+    /// thread.
     bool wasGivenUp() const { return wasGivenUp_; }
 
 private:

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <iterator>
 #include <libburn/libburn.h>
 #include <optional>
 #include <string_view>
@@ -55,6 +56,8 @@ bool startLibrary() {
 
 } // namespace
 
+LibburnThread::LibburnThread() = default;
+
 LibburnThread::~LibburnThread() {
     {
         const std::lock_guard lock(mutex_);
@@ -97,7 +100,7 @@ std::shared_ptr<MessageInbox> LibburnThread::subscribe() {
     return inbox;
 }
 
-void LibburnThread::leave(std::shared_ptr<LibburnSession> session) {
+void LibburnThread::leave(std::unique_ptr<LibburnSession> session) {
     const std::lock_guard lock(mutex_);
     left_.push_back(std::move(session));
     arrived_.notify_one();
@@ -133,32 +136,32 @@ void LibburnThread::serve() {
         lock.lock();
     }
     lock.unlock();
+    finish();
+}
+
+/// Nobody adds jobs or sessions any more.
+void LibburnThread::finish() {
     const auto deadline = std::chrono::steady_clock::now() + lastPatience;
     while (!left_.empty() && std::chrono::steady_clock::now() < deadline) {
         std::this_thread::sleep_for(sessionInterval);
         lookAfterSessions();
     }
-    if (isUsable && left_.empty()) {
+    if (isUsable_ && left_.empty()) {
         burn::burn_finish();
     }
     for (const auto &session : left_) {
-        session->abandon(); // Its library thread still uses it, until the end of the process.
+        session->abandon(); // libburn's worker still uses it, until the end of the process.
     }
 }
 
+/// Gives the drives free that have come to rest, without the lock, since that takes its time.
 void LibburnThread::lookAfterSessions() {
-    std::vector<std::shared_ptr<LibburnSession>> sessions;
-    {
-        const std::lock_guard lock(mutex_);
-        sessions = left_;
-    }
-    for (const auto &session : sessions) {
-        if (session->isIdle()) {
-            const std::lock_guard lock(mutex_);
-            std::erase(left_, session);
-        }
-    }
-    sessions.clear(); // Releases the drives of those that are idle.
+    std::vector<std::unique_ptr<LibburnSession>> idle;
+    const std::lock_guard lock(mutex_);
+    const auto firstIdle = std::partition(left_.begin(), left_.end(),
+                                          [](const auto &session) { return !session->isIdle(); });
+    std::move(firstIdle, left_.end(), std::back_inserter(idle));
+    left_.erase(firstIdle, left_.end());
 }
 
 void LibburnThread::handOutMessages() {

@@ -20,7 +20,7 @@ class LibburnSession;
 /// a process at a time. libburn writes on threads of its own, which the library keeps.
 class LibburnThread {
 public:
-    LibburnThread() = default;
+    LibburnThread();
     /// Waits some seconds for sessions that were left to it.
     ~LibburnThread();
     LibburnThread(const LibburnThread &) = delete;
@@ -34,7 +34,7 @@ public:
     std::shared_ptr<MessageInbox> subscribe();
 
     /// For a session whose drive does not come to rest: it is released as soon as it does.
-    void leave(std::shared_ptr<LibburnSession> session);
+    void leave(std::unique_ptr<LibburnSession> session);
 
 private:
     struct Job {
@@ -44,6 +44,7 @@ private:
 
     bool start();
     void serve();
+    void finish();
     void lookAfterSessions();
     void handOutMessages();
 
@@ -52,7 +53,7 @@ private:
     std::condition_variable done_;
     std::deque<Job *> jobs_;
     std::vector<std::weak_ptr<MessageInbox>> inboxes_;
-    std::vector<std::shared_ptr<LibburnSession>> left_; ///< Used on the thread, but for adding.
+    std::vector<std::unique_ptr<LibburnSession>> left_;
     bool isEnding_ = false;
     bool isUsable_ = false; ///< The library has been started.
     bool hasTried_ = false;

@@ -127,7 +127,7 @@ Outcome<> OpticalDiscRecording::write(DiscContent &content, RecordObserver &obse
         return filled;
     }
     const LibburnRun::Parts parts{.thread = *thread_,
-                                  .session = session_,
+                                  .session = *session_,
                                   .inbox = *inbox_,
                                   .ring = ring_,
                                   .pump = pump,
@@ -140,7 +140,7 @@ Outcome<> OpticalDiscRecording::write(DiscContent &content, RecordObserver &obse
         auto ended = run.write(text, speed_, stop);
         isTextRefused = run.wasTextRefused();
         if (run.wasGivenUp()) {
-            session_.reset(); // It is left to libburn's thread.
+            thread_->leave(std::move(session_));
         }
         return ended;
     };

@@ -61,7 +61,7 @@ private:
     const RecordingPatience patience_;
     std::vector<int> speeds_;
     std::shared_ptr<MessageInbox> inbox_;     ///< While libburn holds the drive.
-    std::shared_ptr<LibburnSession> session_; ///< The same; released on libburn's thread.
+    std::unique_ptr<LibburnSession> session_; ///< The same; released on libburn's thread.
     std::shared_ptr<SectorRing> ring_;
     OffsetReference reference_;
     int speed_ = 0;

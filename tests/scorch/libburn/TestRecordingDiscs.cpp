@@ -99,7 +99,7 @@ TEST_F(RecordingDiscs, JobThatLibburnRefusesWhileItIsBusyIsNoSuccess) {
     const SessionPlan plan = planSession(content);
     const auto ring = std::make_shared<SectorRing>(300 * audioSectorBytes);
     const auto inbox = thread_->subscribe();
-    std::shared_ptr<LibburnSession> session;
+    std::unique_ptr<LibburnSession> session;
     thread_->run([&] {
         session = LibburnSession::grab("/dev/" + name_);
         session->write(plan, std::nullopt, 0, ring); // Waits for its first sector.
@@ -108,7 +108,7 @@ TEST_F(RecordingDiscs, JobThatLibburnRefusesWhileItIsBusyIsNoSuccess) {
     ContentPump pump(content, plan, *ring, reference);
     SilentObserver nobody;
     StageReporter stages(plan, nobody);
-    LibburnRun run({*thread_, session, *inbox, ring, pump, stages, plan, {}, patience_});
+    LibburnRun run({*thread_, *session, *inbox, ring, pump, stages, plan, {}, patience_});
     EXPECT_FALSE(run.write(std::nullopt, 0, {}));
     thread_->run([&] { session->cancel(); });
     ring->abort();
