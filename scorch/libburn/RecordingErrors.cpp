@@ -49,6 +49,11 @@ ScorchError wrongLengthError(const std::string &name) {
 std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPlan &plan,
                                      const std::string &driveName) {
     using Kind = MediumState::Kind;
+    if (plan.sectors.empty()) {
+        return ScorchError(
+            Code::nothingToBurn,
+            localized("There is nothing to burn: the list is empty. Add files to it first."));
+    }
     if (plan.sectors.size() > maximumTracks) {
         return ScorchError(
             Code::tooManyTracks,

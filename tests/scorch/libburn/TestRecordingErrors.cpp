@@ -84,6 +84,11 @@ TEST(RefusedDiscs, EachReasonHasItsCode) {
               ScorchErrorCode::discNotBlank);
 }
 
+TEST(RefusedDiscs, DiscWithoutTracksIsNone) {
+    EXPECT_EQ(refusalOf(blankDisc(), SessionPlan{}, "Drive")->category(),
+              ScorchErrorCode::nothingToBurn);
+}
+
 TEST(RefusedDiscs, PlanMustFitToTheSector) {
     EXPECT_EQ(refusalAfter([](MediumState &medium) { medium.freeSectors = 699; }),
               ScorchErrorCode::doesNotFit);
