@@ -38,10 +38,14 @@ ChildProcess::ChildProcess(const std::vector<std::string> &arguments, const std:
                                      O_WRONLY | O_CREAT | O_APPEND, 0600);
     posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
     posix_spawn_file_actions_adddup2(&actions, ends[1], lineDescriptor);
+    std::string setpriv = "setpriv";
+    std::string onParentsEnd = "--pdeathsig";
+    std::string signal = "TERM";
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
-    std::vector<char *> raw;
+    // A test that crashes or is ended takes the program with it.
+    std::vector<char *> raw = {setpriv.data(), onParentsEnd.data(), signal.data()};
     for (const std::string &argument : arguments) {
         raw.push_back(const_cast<char *>(argument.c_str())); // NOLINT: what the call asks for
     }
