@@ -39,6 +39,9 @@ std::optional<LibburnMessage> nextMessage() {
     message.isError =
         std::find(errors.begin(), errors.end(), std::string_view(severity.data())) != errors.end();
     message.text = text.data();
+    while (message.text.ends_with('\n')) {
+        message.text.pop_back();
+    }
     return message;
 }
 

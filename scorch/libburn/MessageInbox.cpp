@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/libburn/MessageInbox.h"
 
+#include "scorch/support/Log.h"
+
 #include <cstddef>
 
 namespace scorch {
@@ -11,15 +13,16 @@ constexpr std::size_t mostErrors = 50;
 } // namespace
 
 void MessageInbox::add(const LibburnMessage &message, bool isShared) {
-    const std::lock_guard lock(mutex_);
-    hasWorkerEnded_ = hasWorkerEnded_ || isWorkerEnd(message);
-    if (!message.isError) {
-        return;
-    }
-    if (errors_.size() < mostErrors) {
+    {
+        const std::lock_guard lock(mutex_);
+        hasWorkerEnded_ = hasWorkerEnded_ || isWorkerEnd(message);
+        hasFailure_ = hasFailure_ || (!isShared && isWriteFailure(message));
+        if (!message.isError || errors_.size() == mostErrors) {
+            return;
+        }
         errors_.push_back(message);
     }
-    hasFailure_ = hasFailure_ || (!isShared && isWriteFailure(message));
+    logLine("libburn: " + message.text);
 }
 
 bool MessageInbox::hasFailure() const {

@@ -13,7 +13,7 @@ namespace scorch {
 /// about: while several recordings run, each gets all of them, marked. Any thread.
 class MessageInbox {
 public:
-    /// `isShared`: it may be about another drive.
+    /// Errors are logged. `isShared`: it may be about another drive.
     void add(const LibburnMessage &message, bool isShared);
 
     /// A failure of this recording was reported, and no other that it could be of.

@@ -111,6 +111,11 @@ ScorchError RecordingTest::errorOf(const Interruption &interruption) {
     return std::get<ScorchError>(interruption);
 }
 
+std::vector<std::string> RecordingTest::log() const {
+    const std::lock_guard lock(logMutex_);
+    return log_;
+}
+
 std::string RecordingTest::soundOnDisc(std::int64_t sectors) const {
     return userData(scene_.sectors(0, static_cast<Lba>(sectors)), 0, audioSectorBytes);
 }

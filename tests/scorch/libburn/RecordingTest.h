@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -41,6 +42,8 @@ protected:
     ScorchError failureOf(scorch::DiscContent &content);
     static ScorchError errorOf(const scorch::Interruption &interruption);
 
+    /// The lines of the engine's log.
+    std::vector<std::string> log() const;
     /// The user data of the first sectors of the disc.
     std::string soundOnDisc(std::int64_t sectors) const;
     std::string dataOnDisc(std::int64_t sectors) const;
@@ -55,5 +58,8 @@ protected:
     std::shared_ptr<scorch::LibburnThread> thread_ = std::make_shared<scorch::LibburnThread>();
     std::unique_ptr<scorch::DiscRecording> recording_; ///< The last one.
     std::vector<std::string> stages_;
+
+private:
+    mutable std::mutex logMutex_;
     std::vector<std::string> log_;
 };

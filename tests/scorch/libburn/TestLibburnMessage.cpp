@@ -79,6 +79,17 @@ TEST(MessageInbox, KeepsErrorsAndKnowsFailures) {
     EXPECT_TRUE(inbox.errors().empty());
 }
 
+TEST(MessageInbox, FailureBehindManyHarmlessErrorsIsNoticed) {
+    MessageInbox inbox;
+    for (int count = 0; count < 1000; ++count) {
+        inbox.add(refusedSpeed, false);
+    }
+    EXPECT_FALSE(inbox.hasFailure());
+    EXPECT_LT(inbox.errors().size(), 100U);
+    inbox.add(writeError, false);
+    EXPECT_TRUE(inbox.hasFailure());
+}
+
 TEST(MessageInbox, KnowsThatTheWorkerHasGone) {
     MessageInbox inbox;
     inbox.add(writeError, false);

@@ -52,6 +52,7 @@ TEST_F(RecordingFaults, WriteErrorNamesTheSectorAndTheSense) {
     EXPECT_EQ(failure.category(), ScorchErrorCode::writeFailed);
     EXPECT_THAT(failure.localizedDescription(), HasSubstr("sector 4"));
     EXPECT_THAT(failure.detail(), HasSubstr("3/0C/00"));
+    EXPECT_THAT(log(), testing::Contains(HasSubstr("[3 0C 00]"))) << "with libburn's own words";
 }
 
 TEST_F(RecordingFaults, PowerCalibrationFailureIsTold) {
