@@ -191,7 +191,7 @@ TEST(PollingWatcher, LooksAtASuspectAtOnce) {
 
 TEST(PollingWatcher, EndsWithoutASearchAndInTheMiddleOfAWait) {
     FakeNodes nodes;
-    PollingWatcher(nodes.access(), 1h);
+    const PollingWatcher idle(nodes.access(), 1h);
     PollingWatcher watcher(nodes.access(), 1h);
     EXPECT_THAT(watcher.search({}), IsEmpty());
 }
