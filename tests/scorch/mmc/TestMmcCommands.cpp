@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 using namespace scorch;
-using recorder::DiscKind;
 using testing::ElementsAre;
 using Bytes = ScriptedTransport::Bytes;
 
