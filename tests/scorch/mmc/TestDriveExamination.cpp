@@ -10,7 +10,7 @@ using Bytes = ScriptedTransport::Bytes;
 
 namespace {
 
-ExaminedDrive driveWith(ScriptedTransport::Script script) {
+ExaminedDrive driveWith(const ScriptedTransport::Script &script) {
     return {.name = "ACME",
             .node = "/dev/sr0",
             .open = [script](const auto &) { return ScriptedTransport::device(script); },
