@@ -185,7 +185,7 @@ Outcome<> LibburnRun::result() {
 }
 
 ScorchError LibburnRun::errorOfDrive() const {
-    return writingError(parts_.inbox.errors(), parts_.context);
+    return recordingError(parts_.inbox.errors(), parts_.context);
 }
 
 } // namespace scorch

@@ -138,7 +138,10 @@ bool LibburnSession::Handles::addTrack(const SessionPlan &plan, std::int64_t sec
                                        const std::shared_ptr<SectorRing> &ring) {
     TrackHandle track(burn::burn_track_create());
     const int mode = plan.kind == TrackKind::audio ? BURN_AUDIO : BURN_MODE1;
-    burn::burn_track_define_data(track.get(), 0, 0, 0, mode);
+    // Padded, although it never needs to be: at the end of a source that was broken off, libburn
+    // would go on with the next track's, by the operation that sources had in its first version.
+    constexpr int padded = 1;
+    burn::burn_track_define_data(track.get(), 0, 0, padded, mode);
     const SourceHandle source =
         makeSource(ring, static_cast<std::uint64_t>(sectors) * plan.bytesPerSector());
     if (source == nullptr ||

@@ -92,7 +92,7 @@ Outcome<> OpticalDiscRecording::grab() {
     inbox_ = thread_->subscribe();
     const bool didRun = thread_->run([this] { session_ = LibburnSession::grab(context_.node); });
     if (!didRun || session_ == nullptr) {
-        return Interruption(writingError(inbox_->errors(), context_));
+        return Interruption(recordingError(inbox_->errors(), context_));
     }
     return {};
 }

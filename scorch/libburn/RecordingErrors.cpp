@@ -2,6 +2,7 @@
 #include "scorch/libburn/RecordingErrors.h"
 
 #include "engine/ScorchString.h"
+#include "scorch/mmc/DriveComplaint.h"
 #include "scorch/support/Text.h"
 
 #include <algorithm>
@@ -104,6 +105,17 @@ ScorchError writingError(const std::vector<LibburnMessage> &messages, DriveError
                       "more: try again with a new one, best of another make.",
                       {context.driveName}),
             first != nullptr ? first->text : "no reason given"};
+}
+
+ScorchError recordingError(const std::vector<LibburnMessage> &messages,
+                           const DriveErrorContext &context) {
+    const bool isExplained =
+        std::any_of(messages.begin(), messages.end(), [](const LibburnMessage &message) {
+            return isLostConnection(message) || isTimeOut(message) ||
+                   (isWriteFailure(message) && senseIn(message));
+        });
+    const auto complaint = isExplained ? std::nullopt : complaintOf(context.node);
+    return complaint ? driveError(*complaint, context) : writingError(messages, context);
 }
 
 ScorchError wrongDiscError(const std::string &driveName, const std::string &detail) {

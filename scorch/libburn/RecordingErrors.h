@@ -27,6 +27,11 @@ std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPla
 /// failed. May ask the system who holds the drive.
 ScorchError writingError(const std::vector<LibburnMessage> &messages, DriveErrorContext context);
 
+/// The same; where libburn gave no such reason the drive itself is asked, which blocks until it
+/// answers.
+ScorchError recordingError(const std::vector<LibburnMessage> &messages,
+                           const DriveErrorContext &context);
+
 /// The disc was written, and something about it is not as it was meant. `detail` for the log.
 ScorchError wrongDiscError(const std::string &driveName, const std::string &detail);
 

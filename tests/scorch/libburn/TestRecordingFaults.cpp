@@ -17,15 +17,16 @@ using Clock = std::chrono::steady_clock;
 
 class RecordingFaults : public RecordingTest {
 protected:
-    /// The error of a recording on which this happens while the second track is written.
-    ScorchError failureWhen(const std::string &happens) {
+    /// The error of a recording on which this happens at a stage.
+    ScorchError failureWhen(const std::string &happens, const std::string &at = "write 2") {
         scene_.control("slow 2000\n");
-        atStage_ = [this, happens](const std::string &stage) {
-            if (stage == "write 2") {
+        atStage_ = [this, happens, at](const std::string &stage) {
+            if (stage == at) {
                 scene_.control("slow 2000\n" + happens + "\n");
             }
         };
-        FakeContent content(TrackKind::audio, {300, 1000}, ""); // A lead-in with texts is slow.
+        // A lead-in with texts is slow.
+        FakeContent content(TrackKind::audio, {300, 1000, 300}, "");
         ScorchError failure = failureOf(content);
         atStage_ = nullptr;
         return failure;
@@ -77,6 +78,24 @@ TEST_F(RecordingFaults, DriveThatVanishesIsGone) {
 
 TEST_F(RecordingFaults, DriveThatDoesNotAnswerAnyMoreIsSilent) {
     EXPECT_EQ(failureWhen("silent 20").category(), ScorchErrorCode::driveSilent);
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, TrackThatIsBrokenOffIsNotContinuedWithTheNext) {
+    EXPECT_EQ(failureWhen("silent 20", "write 1").category(), ScorchErrorCode::driveSilent);
+    expectNextDiscToWork();
+}
+
+TEST_F(RecordingFaults, DriveThatFallsSilentBeforeTheFirstCommandIsSilent) {
+    FakeContent content(TrackKind::audio, {300});
+    auto begun = begin(content);
+    ASSERT_TRUE(begun);
+    scene_.control("silent 20\n");
+    SilentObserver observer;
+    const auto recorded = (*begun)->record(content, observer, stop_.get_token());
+    ASSERT_FALSE(recorded);
+    EXPECT_EQ(errorOf(recorded.error()).category(), ScorchErrorCode::driveSilent);
+    begun->reset();
     expectNextDiscToWork();
 }
 
