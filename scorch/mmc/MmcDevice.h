@@ -37,6 +37,9 @@ public:
     /// Unlocks the door and puts the disc out. Kind::busy where another program has the drive open.
     Result<void, MmcError> eject() { return transport_->eject(); }
 
+    /// Unlocks the door. Kind::busy where another program has the drive open.
+    Result<void, MmcError> unlock() { return transport_->unlock(); }
+
     static constexpr std::chrono::milliseconds usualTimeout{10'000};
 
 private:

@@ -26,6 +26,8 @@ public:
 
     /// See MmcDevice::eject.
     virtual Result<void, MmcError> eject() = 0;
+    /// See MmcDevice::unlock.
+    virtual Result<void, MmcError> unlock() = 0;
 
 protected:
     MmcTransport() = default;

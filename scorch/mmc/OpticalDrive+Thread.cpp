@@ -5,6 +5,7 @@
 #include "engine/ScorchHooks.h"
 #include "scorch/mmc/DriveErrors.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -37,7 +38,11 @@ OpticalDrive::Order OpticalDrive::awaitOrder(std::unique_lock<std::mutex> &lock)
             return order;
         }
         const bool isGlancing = watched_ && !recording_ && (!isToldOfMedia_ || obstacle_);
-        if (isGlancing) {
+        const bool isUnlocking = unlockWanted_ && !recording_;
+        if (isUnlocking) {
+            changed_.wait_until(lock,
+                                isGlancing ? std::min(nextGlance_, nextUnlock_) : nextUnlock_);
+        } else if (isGlancing) {
             changed_.wait_until(lock, nextGlance_);
         } else {
             changed_.wait(lock);
@@ -52,6 +57,9 @@ OpticalDrive::Order OpticalDrive::dueOrder() const {
     }
     if (recording_) {
         return Order::none;
+    }
+    if (unlockWanted_ && std::chrono::steady_clock::now() >= nextUnlock_) {
+        return Order::unlock;
     }
     if (ejectWanted_) {
         return Order::eject;
@@ -69,6 +77,9 @@ OpticalDrive::Order OpticalDrive::dueOrder() const {
 
 void OpticalDrive::carryOut(Order order, const std::stop_token &stop) {
     switch (order) {
+    case Order::unlock:
+        unlockDoor();
+        break;
     case Order::eject:
         ejectDisc();
         break;
@@ -132,6 +143,16 @@ void OpticalDrive::glance(const std::stop_token &stop) {
     }
     // A disc that is there is worth the word; that none is there any more is found out at once.
     mediumChanged(event && event->mediumPresent ? MediumNews::changed : MediumNews::perhaps);
+}
+
+/// A drive that fell silent in a recording was given free, but could not be told to open its door:
+/// it is tried until it answers.
+void OpticalDrive::unlockDoor() {
+    Result<MmcDevice, MmcError> device = services_.open(examined_.node);
+    const bool isDone = device && (device->unlock() || device->unlock());
+    const std::lock_guard lock(mutex_);
+    unlockWanted_ = !isDone;
+    nextUnlock_ = std::chrono::steady_clock::now() + services_.glanceInterval;
 }
 
 void OpticalDrive::ejectDisc() {

@@ -225,9 +225,14 @@ void OpticalDrive::recordingEnded() {
         const std::lock_guard lock(mutex_);
         before = state_;
         recording_ = false;
-        if (watched_ && !ended_) {
-            wantOpenly();
+        unlockWanted_ = true;
+        nextUnlock_ = {};
+        if (!ended_) {
+            if (watched_) {
+                wantOpenly();
+            }
             ensureThread();
+            changed_.notify_all();
         }
     }
     tellIfChanged(before);

@@ -72,7 +72,7 @@ private:
     friend class HeldRecording;
 
     /// What the thread is to do next, and how openly a disc is to be examined.
-    enum class Order { none, end, eject, examine, glance };
+    enum class Order { none, end, unlock, eject, examine, glance };
     enum class Wanted { nothing, quietly, openly };
 
     OpticalDrive(const FoundDevice &device, std::string name, bool isToldOfMedia,
@@ -85,6 +85,7 @@ private:
     void examine(const std::stop_token &stop);
     void glance(const std::stop_token &stop);
     void ejectDisc();
+    void unlockDoor();
     void ensureThread();
 
     void take(const DriveFindings &findings);
@@ -112,10 +113,12 @@ private:
     bool recording_ = false;
     bool working_ = false; ///< The thread is at the drive.
     bool ejectWanted_ = false;
+    bool unlockWanted_ = false; ///< A recording may have had to leave the door locked.
     bool ended_ = false;
     bool finished_ = false; ///< The thread will do no more.
     Wanted wanted_ = Wanted::nothing;
     Moment nextGlance_{};
+    Moment nextUnlock_{};
     std::stop_source work_; ///< Of what the thread does now.
     std::thread thread_;
 };

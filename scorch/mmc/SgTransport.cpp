@@ -106,9 +106,16 @@ Result<std::size_t, MmcError> SgTransport::read(const char *name,
 Result<void, MmcError> SgTransport::eject() {
     // Another program's lock is lifted too: who asks for the disc wants it. What the kernel thinks
     // of that is told by the next call.
-    ::ioctl(descriptor_.get(), CDROM_LOCKDOOR, 0);     // NOLINT(*-vararg)
+    static_cast<void>(unlock());
     if (::ioctl(descriptor_.get(), CDROMEJECT) != 0) { // NOLINT(*-vararg)
         return systemError("CDROMEJECT", errno);
+    }
+    return {};
+}
+
+Result<void, MmcError> SgTransport::unlock() {
+    if (::ioctl(descriptor_.get(), CDROM_LOCKDOOR, 0) != 0) { // NOLINT(*-vararg)
+        return systemError("CDROM_LOCKDOOR", errno);
     }
     return {};
 }

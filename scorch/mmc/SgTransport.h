@@ -19,6 +19,7 @@ public:
                                        std::span<std::uint8_t> answer,
                                        std::chrono::milliseconds timeout) override;
     Result<void, MmcError> eject() override;
+    Result<void, MmcError> unlock() override;
 
 private:
     explicit SgTransport(int descriptor) : descriptor_(descriptor) {}

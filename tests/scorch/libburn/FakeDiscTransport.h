@@ -29,6 +29,7 @@ public:
                                                        std::span<std::uint8_t> answer,
                                                        std::chrono::milliseconds timeout) override;
     scorch::Result<void, scorch::MmcError> eject() override { return {}; }
+    scorch::Result<void, scorch::MmcError> unlock() override { return {}; }
 
 private:
     FakeDisc &disc_;

@@ -50,17 +50,25 @@ public:
     }
 
     Result<void, MmcError> eject() override {
-        for (const std::initializer_list<std::uint8_t> command :
-             {std::initializer_list<std::uint8_t>{0x1E, 0, 0, 0, 0, 0}, {0x1B, 0, 0, 0, 2, 0}}) {
-            const std::vector<std::uint8_t> bytes(command);
-            if (const auto done = read("CDROMEJECT", bytes, {}, {}); !done) {
-                return done.error();
-            }
+        if (auto unlocked = unlock(); !unlocked) {
+            return unlocked;
+        }
+        return send("CDROMEJECT", {0x1B, 0, 0, 0, 2, 0});
+    }
+
+    Result<void, MmcError> unlock() override {
+        return send("CDROM_LOCKDOOR", {0x1E, 0, 0, 0, 0, 0});
+    }
+
+private:
+    Result<void, MmcError> send(const char *name, const std::vector<std::uint8_t> &command) {
+        const auto done = read(name, command, {}, {});
+        if (!done) {
+            return done.error();
         }
         return {};
     }
 
-private:
     RecorderDrive &drive_;
 };
 

@@ -45,6 +45,7 @@ public:
         return count;
     }
     scorch::Result<void, scorch::MmcError> eject() override { return {}; }
+    scorch::Result<void, scorch::MmcError> unlock() override { return {}; }
 
 private:
     Script script_;

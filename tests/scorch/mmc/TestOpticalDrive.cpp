@@ -234,6 +234,30 @@ TEST_F(OpticalDriveTest, NothingTouchesTheDriveWhileARecordingHoldsItAndItIsChec
     EXPECT_TRUE(drive->state().disc.isCd);
 }
 
+TEST_F(OpticalDriveTest, ADoorThatARecordingLeftLockedIsUnlockedAsSoonAsTheDriveAnswers) {
+    scene().makeDisc(blankCd());
+    const auto drive = makeDrive();
+    auto recording = drive->beginRecording(content_, {});
+    ASSERT_TRUE(recording.ok());
+    recorder::Recorder hand(scene().folder());
+    hand.execute(recorder::Bytes{0x1E, 0, 0, 0, 1, 0});
+    scene().control("silent 0\n");
+    recording->reset();
+    const auto silentUnlocks = [this] {
+        return recorder().commands().size();
+    };
+    const std::size_t before = silentUnlocks();
+    EXPECT_TRUE(waitFor([&] { return silentUnlocks() > before + 2; })) << "it is tried again";
+    scene().control("");
+    const auto canBeOpened = [&] {
+        // PREVENT is a bit of mode page 2Ah: Lock State.
+        const recorder::Answer page =
+            hand.execute(recorder::Bytes{0x5A, 0, 0x2A, 0, 0, 0, 0, 0, 64, 0});
+        return page.data.size() > 14 && (page.data[8 + 6] & 2U) == 0;
+    };
+    EXPECT_TRUE(waitFor(canBeOpened));
+}
+
 TEST_F(OpticalDriveTest, ASecondRecordingIsRefused) {
     scene().makeDisc(blankCd());
     const auto drive = makeDrive();
