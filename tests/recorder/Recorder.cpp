@@ -66,6 +66,7 @@ Answer Recorder::execute(ByteView cdb, ByteView sent) {
     const DriveFolder::Lock lock(folder_);
     refresh();
     if (faults_.vanished || faults_.noDevice) {
+        folder_.memory().isLocked = false; // With its cable it lost its power.
         return {{}, {}, Transport::NoDevice};
     }
     const Command command{cdb, sent};
