@@ -54,12 +54,17 @@ bool ToolSession::waitUntilReady() {
     if (!RunningHost::waitUntil([drives] { return drives->count() > 0; }, 30s)) {
         return false;
     }
-    // A drive that has come back is in the popup, but not watched before somebody picks it.
-    if (!RunningHost::waitUntil([this] { return status().isEmpty(); }, 3s)) {
+    const auto isReady = [this] {
+        return status().isEmpty() &&
+               (rows() == 0 || host_.part<QPushButton>("_btnBurn")->isEnabled());
+    };
+    // A drive that has come back is in the popup, but not watched before somebody picks it; until
+    // then the box shows what it showed.
+    if (!RunningHost::waitUntil(isReady, 3s) || rows() == 0) {
         drives->setCurrentIndex(0);
         emit drives->activated(0);
     }
-    return RunningHost::waitUntil([this] { return status().isEmpty(); }, 60s);
+    return RunningHost::waitUntil(isReady, 60s);
 }
 
 BurnStep ToolSession::step() {
