@@ -4,6 +4,7 @@
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/Log.h"
 #include "CDBurnerPlugin/MainQueue.h"
+#include "CDBurnerPlugin/MissedFocus.h"
 #include "ui_ProgressWindow.h"
 
 #include <QEvent>
@@ -208,6 +209,7 @@ void ProgressWindow::endSheet() {
     }
     setType(closedType);
     hide();
+    noticeMissedFocus(*_parentWindow);
 }
 
 bool ProgressWindow::isAttachedTo(const QWidget *window) const {
