@@ -120,6 +120,9 @@ std::unique_ptr<LibburnSession> LibburnSession::grab(const std::filesystem::path
     auto handles = std::make_unique<Handles>();
     std::string address = node.native();
     if (burn::burn_drive_scan_and_grab(&handles->drives, address.data(), 0) <= 0) {
+        if (handles->drives != nullptr) { // Found, and could not be taken.
+            burn::burn_drive_info_free(handles->drives);
+        }
         return nullptr;
     }
     return std::unique_ptr<LibburnSession>(new LibburnSession(std::move(handles)));

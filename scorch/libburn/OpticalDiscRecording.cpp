@@ -192,6 +192,12 @@ Outcome<> OpticalDiscRecording::checkDisc() {
     if (!medium) {
         return Interruption(driveError(medium.error(), context_));
     }
+    if (medium->kind == MediumState::Kind::none) {
+        constexpr std::uint8_t closed = 0x01;
+        constexpr std::uint8_t open = 0x02;
+        const Sense notPresent{.key = 2, .asc = 0x3A, .ascq = medium->trayOpen ? open : closed};
+        return Interruption(senseError(notPresent, context_, "after writing"));
+    }
     if (const auto difference = differenceFromPlan(*medium, plan_)) {
         return Interruption(wrongDiscError(context_.driveName, *difference));
     }

@@ -121,6 +121,10 @@ TEST_F(RecordingFaults, TrayThatIsOpenedIsTold) {
     expectNextDiscToWork();
 }
 
+TEST_F(RecordingFaults, TrayThatIsOpenedAfterTheLastSectorIsTold) {
+    EXPECT_EQ(failureWhen("tray open", "finishing").category(), ScorchErrorCode::noDisc);
+}
+
 TEST_F(RecordingFaults, DriveThatIsHeldIsBusyAtOnce) {
     scene_.control("busy\n");
     FakeContent content(TrackKind::audio, {300});
