@@ -2,16 +2,21 @@
 #include "tests/recorder/Commands.h"
 #include "tests/recorder/SubChannel.h"
 
+#include <algorithm>
+#include <array>
+
 namespace recorder {
 
 namespace {
 
 constexpr Byte kNoAudioStatus = 0x15;
 
-Bytes withHeader(Bytes contents) {
-    Bytes data = {0, kNoAudioStatus, 0, 0};
+Bytes withHeader(const Bytes &contents) {
+    constexpr std::size_t headerBytes = 4;
+    Bytes data(headerBytes + contents.size(), 0);
+    data[1] = kNoAudioStatus;
     put16(data, 2, static_cast<std::int64_t>(contents.size()));
-    data.insert(data.end(), contents.begin(), contents.end());
+    std::copy(contents.begin(), contents.end(), data.begin() + headerBytes);
     return data;
 }
 
@@ -35,11 +40,12 @@ Bytes position(const Disc &disc, Lba lba, bool asMsf) {
 }
 
 /// Media catalog number or ISRC: a valid bit, and the characters in ASCII.
-Bytes identity(Bytes head, const std::string &text) {
-    head.resize(20, 0);
-    head[4] = text.empty() ? 0 : 0x80;
-    std::copy(text.begin(), text.end(), head.begin() + 5);
-    return head;
+Bytes identity(const std::array<Byte, 4> &head, const std::string &text) {
+    Bytes data(20, 0);
+    std::copy(head.begin(), head.end(), data.begin());
+    data[4] = text.empty() ? 0 : 0x80;
+    std::copy(text.begin(), text.end(), data.begin() + 5);
+    return data;
 }
 
 } // namespace
