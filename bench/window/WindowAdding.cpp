@@ -6,6 +6,7 @@
 //   window_adding LIBRARY PATH...     prints "SECONDS LONGEST_GAP_MS ROWS"
 //   window_adding LIBRARY --each DIR  hands over each file of DIR as an item of its own
 #include "host/VXUtilitiesTool.h"
+#include "tests/support/Heartbeat.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -15,7 +16,6 @@
 #include <QTableView>
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 
@@ -39,28 +39,6 @@ SongList filesFromArguments(int count, char **values) {
     }
     return files;
 }
-
-/// Ticks every millisecond and keeps the longest time between two ticks.
-class Heartbeat {
-public:
-    Heartbeat() {
-        timer_.setTimerType(Qt::PreciseTimer);
-        timer_.setInterval(1);
-        QObject::connect(&timer_, &QTimer::timeout, [this] {
-            longest_ = std::max(longest_, sinceLast_.nsecsElapsed());
-            sinceLast_.restart();
-        });
-        sinceLast_.start();
-        timer_.start();
-    }
-
-    double longestMilliseconds() const { return static_cast<double>(longest_) / 1e6; }
-
-private:
-    QTimer timer_;
-    QElapsedTimer sinceLast_;
-    qint64 longest_ = 0;
-};
 
 /// Runs the event loop until the condition holds.
 template <class Condition>

@@ -7,8 +7,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Slow enough that each stage lasts, fast enough that a matrix ends.
-constexpr int sectorsPerSecond = 700;
+/// Slow enough that each stage lasts, fast enough that a matrix ends: in front of sound there is a
+/// lead-in with texts, ten times as long as the songs.
+constexpr int sectorsPerSecond[] = {2500, 800};
 constexpr double allowedBlocking = 50.0; // Milliseconds.
 constexpr int sourceCount = 3;
 
@@ -153,7 +154,7 @@ Matrix::Cell Matrix::meet(const FaultCase &faultCase, FaultStage stage, int kind
     if (stage == FaultStage::checking) {
         cell = meetWhileChecking(faultCase);
     } else {
-        scene_.setSpeed(sectorsPerSecond);
+        scene_.setSpeed(sectorsPerSecond[kind]);
         bool hasActed = faultCase.isPlaced;
         if (faultCase.isPlaced) {
             act(faultCase);

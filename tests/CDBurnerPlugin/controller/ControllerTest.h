@@ -9,9 +9,9 @@
 #include "CDBurnerPlugin/ProgressWindow.h"
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 #include "CDBurnerPlugin/VolumeNameEdit.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/controller/AlertAnswer.h"
 #include "tests/CDBurnerPlugin/controller/UsageLog.h"
-#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>

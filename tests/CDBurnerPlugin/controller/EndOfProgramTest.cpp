@@ -2,9 +2,9 @@
 // Each of these ends the application's event loop, after which the main queue takes nothing more:
 // one test a process.
 #include "CDBurnerPlugin/VXCDBurner.h"
+#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/controller/AlertAnswer.h"
 #include "tests/CDBurnerPlugin/controller/UsageLog.h"
-#include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>

@@ -3,8 +3,8 @@
 #include "CDBurnerPlugin/VXCDBurner.h"
 #include "CDBurnerPlugin/VXUtilitiesToolContextContainer.h"
 #include "engine/ScorchHooks.h"
-#include "tests/CDBurnerPlugin/controller/UsageLog.h"
 #include "tests/CDBurnerPlugin/EventLoop.h"
+#include "tests/CDBurnerPlugin/controller/UsageLog.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>

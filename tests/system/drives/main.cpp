@@ -1,37 +1,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Starts the tests with the recorder preloaded and a folder of their own for its drives: what is
 // preloaded must be known before a program begins, so it begins twice.
+#include "tests/support/QtTests.h"
 #include "tests/support/TemporaryFolder.h"
 
-#include <QApplication>
-
-#include <gmock/gmock.h>
+#include <QByteArray>
 
 #include <cstdlib>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
-
-int runTests(int argc, char *argv[]) {
-    const TemporaryFolder home; // Nobody's settings are read or written.
-    qputenv("HOME", home.path().c_str());
-    qputenv("XDG_CONFIG_HOME", (home.path() / "config").c_str());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    testing::InitGoogleMock(&argc, argv);
-    const QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
-}
-
-} // namespace
-
 int main(int argc, char *argv[]) {
     if (qEnvironmentVariableIsSet("CD_RECORDER")) {
-        return runTests(argc, argv);
+        return runQtTests(argc, argv);
     }
     const TemporaryFolder drives;
     qputenv("CD_RECORDER", drives.path().c_str());

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/QtTests.h"
+
 #include "tests/support/TemporaryFolder.h"
 
 #include <QApplication>
 
 #include <gmock/gmock.h>
 
-int main(int argc, char *argv[]) {
-    // Nobody's settings are read or written.
+int runQtTests(int argc, char *argv[]) {
     const TemporaryFolder home;
     qputenv("HOME", home.path().c_str());
     qputenv("XDG_CONFIG_HOME", (home.path() / "config").c_str());
     qunsetenv("XDG_MUSIC_DIR");
-    // Listing the tests needs no display either.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
