@@ -69,6 +69,9 @@ std::vector<std::string> Accessible::labels() const {
 }
 
 bool Accessible::hasState(AtspiStateType state) const {
+    if (isNull()) { // The library asks everything else of nothing, but this.
+        return false;
+    }
     const auto states = owned(atspi_accessible_get_state_set(object_.get()));
     return states != nullptr && atspi_state_set_contains(states.get(), state) != FALSE;
 }

@@ -77,7 +77,8 @@ TEST_F(AccessibleSheet, CancelAsksAndEscapeMeansNo) {
     EXPECT_FALSE(alert().find(ATSPI_ROLE_PUSH_BUTTON, "Yes").isNull());
     press("Escape");
     waitUntil("the question's end", [this] { return alert().isNull(); });
-    EXPECT_TRUE(sheetButton("Cancel").hasState(ATSPI_STATE_ENABLED));
+    waitUntil("the sheet's button",
+              [this] { return sheetButton("Cancel").hasState(ATSPI_STATE_ENABLED); });
 }
 
 TEST_F(AccessibleSheet, ReturnMeansYesAndTheBurnIsCancelled) {
