@@ -106,7 +106,7 @@ bool Matrix::learnLeadOut(int kind) {
 
 bool Matrix::prepare(int kind) {
     scene_.clearFaults();
-    scene_.makeSources();
+    scene_.putFileBack();
     scene_.insertBlank();
     return session_.fillList(kind) && session_.waitUntilReady();
 }
@@ -118,8 +118,7 @@ void Matrix::act(const FaultCase &faultCase) {
     case FaultCase::Act::cancel:
         return session_.cancel();
     case FaultCase::Act::removeSource:
-        std::filesystem::remove(scene_.files().at(1));
-        return;
+        return scene_.takeFileAway();
     case FaultCase::Act::insertUsed:
         return scene_.insertUsed();
     case FaultCase::Act::insertPressed:

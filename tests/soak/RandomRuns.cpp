@@ -29,7 +29,6 @@ const char *nameOf(BurnEnding::Kind kind) {
 /// A disc that cannot be burned first, now and then; and sometimes before it was looked at.
 bool RandomRuns::changeDiscs() {
     scene_.clearFaults();
-    scene_.makeSources();
     for (int others = pick(random_, 2); others > 0; --others) {
         switch (pick(random_, 2)) {
         case 0:

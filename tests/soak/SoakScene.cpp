@@ -87,15 +87,20 @@ SoakScene::SoakScene(const std::filesystem::path &root, std::filesystem::path wo
 void SoakScene::makeSources() {
     std::uint32_t seed = 1;
     for (const std::filesystem::path &path : songs_) {
-        const std::string content = song(seed++);
-        if (!std::filesystem::exists(path) || std::filesystem::file_size(path) != content.size()) {
-            write(path, content);
-        }
+        write(path, song(seed++));
     }
     for (const std::filesystem::path &path : files_) {
-        if (!std::filesystem::exists(path) || std::filesystem::file_size(path) != fileBytes) {
-            write(path, noise(fileBytes, seed++));
-        }
+        write(path, noise(fileBytes, seed++));
+    }
+}
+
+void SoakScene::takeFileAway() {
+    std::filesystem::rename(files_.at(1), workFolder_ / "away");
+}
+
+void SoakScene::putFileBack() {
+    if (std::filesystem::exists(workFolder_ / "away")) {
+        std::filesystem::rename(workFolder_ / "away", files_.at(1));
     }
 }
 

@@ -44,12 +44,14 @@ public:
     /// Three songs of `songSectors` each.
     const std::vector<std::filesystem::path> &songs() const { return songs_; }
     const std::vector<std::filesystem::path> &files() const { return files_; }
-    /// Writes songs and files anew where they are missing or were changed.
-    void makeSources();
+    /// Takes a file of the list away, and puts it back as it was.
+    void takeFileAway();
+    void putFileBack();
 
     static constexpr recorder::Lba songSectors = 400;
 
 private:
+    void makeSources();
     void control() const;
 
     std::filesystem::path workFolder_;
