@@ -685,6 +685,10 @@
         <translation>تعذرت قراءة المقطع %@، «&#x2068;%@&#x2069;»، من القرص بعد كتابته. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>تمت كتابة القرص، لكن تعذر التحقق منه: فُصل المحرك «&#x2068;%@&#x2069;» أو لا يستجيب أو أُخرج القرص منه. تحقق في مشغل أو حاسوب من إمكانية قراءته.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>تعذرت قراءة فهرس محتويات القرص بعد كتابته. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
     </message>

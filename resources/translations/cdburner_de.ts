@@ -685,6 +685,10 @@
         <translation>Titel %@, „%@“, lässt sich nicht von der CD zurücklesen. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>Die CD wurde geschrieben, konnte aber nicht überprüft werden: Das Laufwerk „%@“ wurde getrennt, antwortet nicht, oder die CD wurde herausgenommen. Prüfen Sie in einem Player oder Computer, ob sie sich lesen lässt.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Das Inhaltsverzeichnis lässt sich nicht von der CD zurücklesen. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
     </message>

@@ -685,6 +685,10 @@
         <translation>La pista %@, «%@», no se puede volver a leer del CD. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>El CD se grabó, pero no se pudo verificar: la unidad «%@» se desconectó, no responde o se quedó sin disco. Compruebe en un reproductor o en un ordenador si se puede leer.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>La tabla de contenidos del CD no se puede volver a leer. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
     </message>

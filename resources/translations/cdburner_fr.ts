@@ -685,6 +685,10 @@
         <translation>La piste %@, «&#xa0;%@&#xa0;», ne peut pas être relue sur le CD. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>Le CD a été gravé, mais n’a pas pu être vérifié&#xa0;: le lecteur «&#xa0;%@&#xa0;» a été débranché, ne répond pas ou n’a plus de disque. Vérifiez dans un lecteur ou un ordinateur s’il peut être lu.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>La table des matières du CD ne peut pas être relue. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
     </message>

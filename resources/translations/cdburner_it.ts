@@ -685,6 +685,10 @@
         <translation>La traccia %@, «%@», non può essere riletta dal CD. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>Il CD è stato scritto, ma non è stato possibile verificarlo: l’unità «%@» è stata scollegata, non risponde o è rimasta senza disco. Controllare con un lettore o un computer se è leggibile.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>L’indice del CD non può essere riletto. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
     </message>

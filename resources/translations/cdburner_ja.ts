@@ -685,6 +685,10 @@
         <translation>トラック %@「%@」をディスクから読み戻せません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>ディスクは書き込まれましたが、検証できませんでした。ドライブ「%@」が取り外されたか、応答しないか、ディスクが取り出されました。プレーヤーやコンピューターで読めるか確かめてください。</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>ディスクの目次を読み戻せません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
     </message>

@@ -685,6 +685,10 @@
         <translation>A faixa %@, “%@”, não pode ser lida de volta do CD. Não confie neste CD: grave a lista novamente em outro.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>O CD foi gravado, mas não pôde ser verificado: a unidade “%@” foi desconectada, não responde ou ficou sem o disco. Verifique em um aparelho ou computador se ele pode ser lido.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>O índice do CD não pode ser lido de volta. Não confie neste CD: grave a lista novamente em outro.</translation>
     </message>

@@ -685,6 +685,10 @@
         <translation>Дорожку %@, «%@», не удаётся прочитать с записанного диска. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>Диск записан, но проверить его не удалось: привод «%@» отключён, не отвечает или остался без диска. Проверьте на проигрывателе или компьютере, читается ли диск.</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Оглавление записанного диска не удаётся прочитать. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
     </message>

@@ -685,6 +685,10 @@
         <translation>无法从光盘读回音轨 %@“%@”。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
     </message>
     <message>
+        <source>The disc was written, but it could not be verified: the drive “%@” was disconnected, does not answer, or lost its disc. Check in a player or computer whether it can be read.</source>
+        <translation>光盘已写入，但无法校验：光驱“%@”已断开、没有响应，或光盘已被取出。请在播放器或计算机上检查光盘能否读取。</translation>
+    </message>
+    <message>
         <source>The table of contents of the disc cannot be read back. Do not rely on this disc: burn the list again on another one.</source>
         <translation>无法读回光盘的目录。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
     </message>

@@ -28,6 +28,16 @@ MmcError openError(int error) {
     return {.kind = kind, .sense = {}, .systemError = error, .command = "open for writing"};
 }
 
+/// The drive is gone or mute, or the disc is not in it any more.
+bool isDriveAway(const MmcError &error) {
+    constexpr std::uint8_t notReady = 2;
+    constexpr std::uint8_t unitAttention = 6;
+    const bool hasLostDisc = error.kind == MmcError::Kind::sense &&
+                             (error.sense.key == notReady || error.sense.key == unitAttention);
+    return error.kind == MmcError::Kind::gone || error.kind == MmcError::Kind::timedOut ||
+           hasLostDisc;
+}
+
 /// libburn tries for six seconds before it says that a drive is in use.
 std::optional<MmcError> exclusionOf(const std::filesystem::path &node) {
     const FileDescriptor device(
@@ -238,6 +248,9 @@ Interruption OpticalDiscRecording::readError(std::size_t track,
         return Cancelled{};
     }
     const auto &failure = std::get<ReadFailure>(interruption);
+    if (isDriveAway(failure.error)) {
+        return unverifiedError(context_.driveName, failure.error.detail());
+    }
     while (track + 1 < plan_.sectors.size() && failure.sector >= plan_.start(track + 1)) {
         ++track;
     }

@@ -126,6 +126,15 @@ ScorchError wrongDiscError(const std::string &driveName, const std::string &deta
             detail};
 }
 
+ScorchError unverifiedError(const std::string &driveName, const std::string &detail) {
+    return {Code::verifyFailed,
+            localized("The disc was written, but it could not be verified: the drive “%@” was "
+                      "disconnected, does not answer, or lost its disc. Check in a player or "
+                      "computer whether it can be read.",
+                      {driveName}),
+            detail};
+}
+
 ScorchError readBackError(TrackKind kind, std::size_t track, const std::string &name,
                           const std::string &detail) {
     if (kind == TrackKind::audio) {

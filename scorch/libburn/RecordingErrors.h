@@ -35,6 +35,9 @@ ScorchError recordingError(const std::vector<LibburnMessage> &messages,
 /// The disc was written, and something about it is not as it was meant. `detail` for the log.
 ScorchError wrongDiscError(const std::string &driveName, const std::string &detail);
 
+/// The disc is complete, and it is not the disc that keeps it from being read back.
+ScorchError unverifiedError(const std::string &driveName, const std::string &detail);
+
 /// A recorded sector cannot be read. `name` is that of the song or file there; empty for what
 /// stands before the files of an image.
 ScorchError readBackError(TrackKind kind, std::size_t track, const std::string &name,

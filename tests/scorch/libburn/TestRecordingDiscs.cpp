@@ -154,6 +154,20 @@ TEST_F(RecordingDiscs, SectorThatCannotBeReadBackNamesTheSong) {
     EXPECT_THAT(errorOf(read.error()).detail(), HasSubstr("3/11/00"));
 }
 
+TEST_F(RecordingDiscs, DriveThatIsAwayWhenItIsReadBackIsNotTheDiscsFault) {
+    FakeContent content(TrackKind::data, {400});
+    ASSERT_TRUE(record(content));
+    std::vector<std::byte> data(16 * dataSectorBytes);
+    for (const char *fault : {"silent 20\n", "tray open #1\n", "vanished\n"}) {
+        scene_.control(fault);
+        const auto read = recording_->readBack(0, 0, data, {});
+        ASSERT_FALSE(read);
+        const ScorchError error = errorOf(read.error());
+        EXPECT_EQ(error.category(), ScorchErrorCode::verifyFailed);
+        EXPECT_THAT(error.localizedDescription(), HasSubstr("could not be verified")) << fault;
+    }
+}
+
 TEST_F(RecordingDiscs, TwoDrivesRecordAtOnce) {
     const DriveScene second(std::getenv("CD_RECORDER"), "sr31");
     second.makeDisc(blankDisc(DiscKind::CdRw));
