@@ -30,4 +30,11 @@ std::optional<ScorchError> discError(const std::string &driveName, const DriveSt
     return std::nullopt;
 }
 
+ScorchError wrongLengthError(const std::string &name) {
+    return {ScorchErrorCode::internal,
+            localized("“%@” turned out to have another length than expected. Remove it from the "
+                      "list, add it again and start over.",
+                      {name})};
+}
+
 } // namespace scorch

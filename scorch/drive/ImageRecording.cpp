@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/drive/ImageRecording.h"
 
+#include "scorch/drive/DiscError.h"
 #include "scorch/drive/ImageCommit.h"
 #include "scorch/drive/ImageDrive.h"
 #include "scorch/drive/ImageFileName.h"
@@ -17,15 +18,6 @@ namespace {
 constexpr std::size_t copySectors = 512;
 /// Room that a file system needs besides the image: a cue sheet, folder entries, block maps.
 constexpr std::uint64_t bookkeepingBytes = 65'536;
-
-/// A source that does not keep to its layout would put something else on the disc than was
-/// announced: the positions of all that follows would be wrong.
-ScorchError wrongLengthError(const std::string &name) {
-    return {ScorchErrorCode::internal,
-            localized("“%@” turned out to have another length than expected. Remove it from the "
-                      "list, add it again and start over.",
-                      {name})};
-}
 
 ScorchError readBackError(const std::filesystem::path &folder, std::string detail) {
     return {ScorchErrorCode::verifyFailed,

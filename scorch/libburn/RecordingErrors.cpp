@@ -3,6 +3,7 @@
 
 #include "engine/ScorchString.h"
 #include "scorch/mmc/DriveComplaint.h"
+#include "scorch/mmc/DriveExamination.h"
 #include "scorch/support/Text.h"
 
 #include <algorithm>
@@ -40,16 +41,8 @@ MmcError mmcError(MmcError::Kind kind, const LibburnMessage &message) {
 
 } // namespace
 
-ScorchError wrongLengthError(const std::string &name) {
-    return {Code::internal,
-            localized("“%@” turned out to have another length than expected. Remove it from the "
-                      "list, add it again and start over.",
-                      {name})};
-}
-
 std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPlan &plan,
                                      const std::string &driveName) {
-    using Kind = MediumState::Kind;
     if (plan.sectors.empty()) {
         return ScorchError(
             Code::nothingToBurn,
@@ -62,21 +55,9 @@ std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPla
                       "them and burn them on another disc.",
                       {std::to_string(maximumTracks), std::to_string(plan.sectors.size())}));
     }
-    if (medium.kind == Kind::none) {
-        return ScorchError(
-            Code::noDisc,
-            localized("There is no disc in the drive “%@”. Insert a blank CD.", {driveName}));
-    }
-    if (!medium.isCd()) {
-        return ScorchError(
-            Code::discNotSuitable,
-            localized("The disc in the drive “%@” is not a CD. Insert a blank CD.", {driveName}));
-    }
-    if (medium.kind == Kind::cdRom || medium.contents != MediumState::Contents::blank) {
-        return ScorchError(Code::discNotBlank,
-                           localized("The disc in the drive “%@” is not blank. Eject it and "
-                                     "insert a blank CD.",
-                                     {driveName}));
+    const DriveState state{.canWriteCd = true, .checking = false, .disc = discState(medium)};
+    if (auto error = discError(driveName, state)) {
+        return error;
     }
     if (plan.total() > medium.freeSectors) {
         return doesNotFitError(plan, medium.freeSectors);

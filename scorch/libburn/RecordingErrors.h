@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/ScorchError.h"
+#include "scorch/drive/DiscError.h"
 #include "scorch/libburn/LibburnMessage.h"
 #include "scorch/libburn/SessionPlan.h"
 #include "scorch/mmc/DriveErrors.h"
@@ -15,9 +16,6 @@
 namespace scorch {
 
 /// Why a recording on an optical drive did not succeed, in words for a person. Any thread.
-
-/// A source does not keep to its layout: the positions of all that follows would be wrong.
-ScorchError wrongLengthError(const std::string &name);
 
 /// What keeps this content from being burned on this disc; nothing if it can be.
 std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPlan &plan,
