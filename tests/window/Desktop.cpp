@@ -20,6 +20,46 @@ Owned<Reply> owned(Reply *reply) {
     return Owned<Reply>(reply, &std::free);
 }
 
+xcb_atom_t atom(xcb_connection_t *connection, const std::string &name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
+    const auto reply = owned(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+xcb_window_t rootOf(xcb_connection_t *connection) {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+}
+
+/// A window that nobody sees.
+xcb_window_t createWindow(xcb_connection_t *connection) {
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, rootOf(connection), 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    return window;
+}
+
+/// Asks the window manager for something that concerns a window.
+void sendToWindowManager(xcb_connection_t *connection, xcb_window_t window,
+                         const std::string &request) {
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom(connection, request);
+    xcb_send_event(connection, 0, rootOf(connection),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&message));
+    xcb_flush(connection);
+}
+
+bool hasProperty(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t name) {
+    const auto cookie =
+        xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
+    const auto reply = owned(xcb_get_property_reply(connection, cookie, nullptr));
+    return reply != nullptr && reply->type != XCB_ATOM_NONE;
+}
+
 } // namespace
 
 Desktop::Desktop() {
@@ -42,7 +82,7 @@ Desktop::Desktop() {
         ADD_FAILURE() << "no connection to display " << name;
         return;
     }
-    root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+    root_ = rootOf(connection_);
     windowManager_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"openbox", "--sm-disable", "--config-file",
                                  TEST_WINDOW_DIR "/openbox.xml"},
@@ -80,26 +120,34 @@ bool Desktop::hasWindowManager() {
 
 bool Desktop::isManaging() {
     constexpr std::chrono::milliseconds patience{500}; // Then another window is tried.
-    const std::uint32_t window = xcb_generate_id(connection_);
-    xcb_create_window(connection_, XCB_COPY_FROM_PARENT, window, root_, 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const std::uint32_t window = createWindow(connection_);
     xcb_map_window(connection_, window);
+    const xcb_atom_t state = atom(connection_, "WM_STATE");
     const bool isManaged =
-        eventually([&] { return property(window, "WM_STATE", atom("WM_STATE")) != 0; }, patience);
+        eventually([&] { return hasProperty(connection_, window, state); }, patience);
     xcb_destroy_window(connection_, window);
     xcb_flush(connection_);
     return isManaged;
 }
 
-std::uint32_t Desktop::atom(const std::string &name) {
-    const auto cookie =
-        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
-    const auto reply = owned(xcb_intern_atom_reply(connection_, cookie, nullptr));
-    return reply != nullptr ? reply->atom : 0;
+void Desktop::waitForWindowManager() {
+    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
+        xcb_connect(nullptr, nullptr), &xcb_disconnect);
+    if (xcb_connection_has_error(connection.get()) != 0) {
+        ADD_FAILURE() << "no connection to the display";
+        return;
+    }
+    // It answers in the order in which it hears.
+    const xcb_window_t window = createWindow(connection.get());
+    sendToWindowManager(connection.get(), window, "_NET_REQUEST_FRAME_EXTENTS");
+    const xcb_atom_t answer = atom(connection.get(), "_NET_FRAME_EXTENTS");
+    EXPECT_TRUE(eventually([&] { return hasProperty(connection.get(), window, answer); }))
+        << "the window manager is silent";
 }
 
 std::uint32_t Desktop::property(std::uint32_t window, const std::string &name, std::uint32_t type) {
-    const auto cookie = xcb_get_property(connection_, 0, window, atom(name), type, 0, 1);
+    const auto cookie =
+        xcb_get_property(connection_, 0, window, atom(connection_, name), type, 0, 1);
     const auto reply = owned(xcb_get_property_reply(connection_, cookie, nullptr));
     if (reply == nullptr || xcb_get_property_value_length(reply.get()) != sizeof(std::uint32_t)) {
         return 0;
@@ -111,6 +159,12 @@ std::uint32_t Desktop::property(std::uint32_t window, const std::string &name, s
 
 std::uint32_t Desktop::activeWindow() {
     return property(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
+}
+
+std::uint32_t Desktop::keyboardWindow() {
+    const auto reply =
+        owned(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    return reply != nullptr ? reply->focus : 0;
 }
 
 QRect Desktop::windowRect(std::uint32_t window) {
@@ -147,13 +201,5 @@ std::vector<QColor> Desktop::pixels(const QRect &area) {
 }
 
 void Desktop::closeWindow(std::uint32_t window) {
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = atom("_NET_CLOSE_WINDOW");
-    xcb_send_event(connection_, 0, root_,
-                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char *>(&message));
-    xcb_flush(connection_);
+    sendToWindowManager(connection_, window, "_NET_CLOSE_WINDOW");
 }

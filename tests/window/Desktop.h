@@ -31,8 +31,16 @@ public:
     /// later.
     static void splitIntoTwoMonitors();
 
+    /// Returns when the window manager of the display DISPLAY has dealt with everything that was
+    /// done before. It sees a click before the window does; until it has let it through, the
+    /// pointer stands still, and a press that comes meanwhile can be lost.
+    static void waitForWindowManager();
+
     /// The window that the window manager calls active; 0 for none.
     std::uint32_t activeWindow();
+    /// The window that the server sends keys to; what a program and the window manager say of
+    /// themselves may be older than that.
+    std::uint32_t keyboardWindow();
     /// A window's place on the screen without its frame; empty if there is no such window.
     QRect windowRect(std::uint32_t window);
     /// What is on the screen in this rectangle, row by row.
@@ -44,7 +52,6 @@ public:
     std::string errorFile() const { return (folder_ / "errors").string(); }
 
 private:
-    std::uint32_t atom(const std::string &name);
     /// A property of one 32 bit value; 0 if there is none.
     std::uint32_t property(std::uint32_t window, const std::string &name, std::uint32_t type);
     bool hasWindowManager();

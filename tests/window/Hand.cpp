@@ -2,6 +2,7 @@
 #include "tests/window/Hand.h"
 
 #include "tests/support/CommandResult.h"
+#include "tests/window/Desktop.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +28,7 @@ void Hand::moveTo(const QPoint &place) {
 
 void Hand::press(int button) {
     run({"mousedown", std::to_string(button)});
+    Desktop::waitForWindowManager();
 }
 
 void Hand::release(int button) {
@@ -34,15 +36,9 @@ void Hand::release(int button) {
 }
 
 void Hand::clickAt(const QPoint &place, int button) {
-    std::vector<std::string> words = motion(place);
-    words.insert(words.end(), {"click", std::to_string(button)});
-    run(words);
-}
-
-void Hand::doubleClickAt(const QPoint &place) {
-    std::vector<std::string> words = motion(place);
-    words.insert(words.end(), {"click", "--repeat", "2", "--delay", "20", "1"});
-    run(words);
+    moveTo(place);
+    press(button);
+    release(button);
 }
 
 void Hand::wheel(int notches) {

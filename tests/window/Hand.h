@@ -12,11 +12,10 @@
 class Hand {
 public:
     static void moveTo(const QPoint &place);
-    /// Buttons: 1 left, 2 middle, 3 right.
+    /// Buttons: 1 left, 2 middle, 3 right. Returns when the window manager has let it through.
     static void press(int button = 1);
     static void release(int button = 1);
     static void clickAt(const QPoint &place, int button = 1);
-    static void doubleClickAt(const QPoint &place);
     /// Notches of the wheel, positive towards the user: the content moves up.
     static void wheel(int notches);
     /// Keys by their X names, "ctrl+a" for combinations, one after the other.

@@ -20,8 +20,9 @@ protected:
     }
     /// What comes after a key is not swallowed, and shows whether the key itself was.
     void typeOverName() {
-        waitUntil("the field has the focus again",
-                  [this] { return focus() == QLatin1String("_volumeName"); });
+        waitUntil("the field has the keyboard again", [this] {
+            return hasKeyboard("MainWindow") && focus() == QLatin1String("_volumeName");
+        });
         Hand::type("x");
     }
     bool nameIs(const char *name) { return text("_volumeName") == QLatin1String(name); }

@@ -20,15 +20,12 @@ protected:
     void startLongBurn() {
         start({longSong()});
         Hand::clickAt(middleOf("_btnBurn"));
-        waitUntil("the burn is under way", [this] {
-            return isSheetUp() && state()["active"] == QLatin1String("ProgressWindow") &&
-                   !images().empty();
-        });
+        waitUntil("the burn is under way",
+                  [this] { return hasKeyboard("ProgressWindow") && !images().empty(); });
     }
     void clickAlertButton(const char *button) {
         waitUntil("the question is up at its place", [&] {
-            return part("alert").contains(button) &&
-                   state()["active"] == QLatin1String("QMessageBox") &&
+            return part("alert").contains(button) && hasKeyboard("QMessageBox") &&
                    desktop_.windowRect(windowId("QMessageBox")) == placeOf("QMessageBox");
         });
         const QJsonObject place = part("alert")[button].toObject();
@@ -127,6 +124,7 @@ TEST_F(DesktopWindow, DataDiscCanBeChosenAndBurnedByKeyboard) {
     Hand::keys({"alt+b"});
     waitForEndOfBurn();
     EXPECT_THAT(images(), ElementsAre("Notes.iso"));
+    waitUntil("the sheet has the keyboard", [this] { return hasKeyboard("ProgressWindow"); });
     Hand::keys({"Return"});
     waitUntil("the sheet is gone", [this] { return !isSheetUp(); });
 }

@@ -78,9 +78,16 @@ void WindowTest::launch(const std::vector<std::filesystem::path> &files, bool ha
 }
 
 bool WindowTest::isSettled() {
-    const std::uint32_t id = windowId("MainWindow");
-    return id != 0 && state()["active"] == QLatin1String("MainWindow") &&
-           desktop_.activeWindow() == id && desktop_.windowRect(id) == placeOf("MainWindow");
+    return hasKeyboard("MainWindow") &&
+           desktop_.windowRect(windowId("MainWindow")) == placeOf("MainWindow");
+}
+
+bool WindowTest::hasKeyboard(const char *name) {
+    const QJsonObject now = state();
+    const auto id =
+        static_cast<std::uint32_t>(now["windows"].toObject()[name].toObject()["id"].toInteger());
+    return id != 0 && now["active"] == QLatin1String(name) && desktop_.activeWindow() == id &&
+           desktop_.keyboardWindow() == id;
 }
 
 QRect WindowTest::placeOf(const char *window) {
@@ -115,8 +122,7 @@ void WindowTest::startNeighbour() {
 
 void WindowTest::activate() {
     Hand::run({"windowactivate", std::to_string(windowId("MainWindow"))});
-    waitUntil("the tool's window is active again",
-              [this] { return state()["active"] == QLatin1String("MainWindow"); });
+    waitUntil("the tool's window is active again", [this] { return hasKeyboard("MainWindow"); });
 }
 
 void WindowTest::startNeighbourBeside() {

@@ -50,6 +50,10 @@ protected:
     bool isVisible(const char *name) { return widget(name)["visible"].toBool(); }
     bool isEnabled(const char *name) { return widget(name)["enabled"].toBool(); }
     QString focus() { return state()["focus"].toString(); }
+    /// Whether one of the host's windows is the active one for the program, for the window manager
+    /// and for the X server alike, so that the next key goes there. Each alone may say so of a
+    /// window that has just lost the keyboard, or is about to get it.
+    bool hasKeyboard(const char *name);
     bool hasWindow(const char *name) { return part("windows").contains(name); }
     std::uint32_t windowId(const char *name);
     /// A window's place as the program sees it.
