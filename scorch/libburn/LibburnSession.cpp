@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/libburn/LibburnSession.h"
 
+#include "scorch/libburn/CdTextPacks.h"
+
 #include <array>
 #include <cstdlib>
 #include <libburn/libburn.h>
@@ -24,6 +26,15 @@ using SessionHandle = std::unique_ptr<burn::burn_session, Releases<burn::burn_se
 using TrackHandle = std::unique_ptr<burn::burn_track, Releases<burn::burn_track_free>>;
 using OptionsHandle = std::unique_ptr<burn::burn_write_opts, Releases<burn::burn_write_opts_free>>;
 using SourceHandle = std::unique_ptr<burn::burn_source, Releases<burn::burn_source_free>>;
+
+/// The packs are ours: where the disc has no performer and its tracks have some, libburn's own
+/// would not say that the characters are of two bytes.
+bool attachText(burn::burn_write_opts *options, const CdText &text) {
+    std::vector<CdTextPack> packs = cdTextPacks(text);
+    return packs.size() <= mostPacks &&
+           burn::burn_write_opts_set_leadin_text(options, packs.front().data(),
+                                                 static_cast<int>(packs.size()), 0) > 0;
+}
 
 /// One track's part of what comes out of the ring. libburn reads it on the thread that writes.
 struct TrackSource {
@@ -79,20 +90,6 @@ SourceHandle makeSource(std::shared_ptr<SectorRing> ring, std::uint64_t bytes) {
     return source;
 }
 
-constexpr int titlePack = 0x80;
-constexpr int performerPack = 0x81;
-constexpr int japanese = 0x69;
-constexpr int english = 0x09;
-
-/// A text with its terminator, which is as wide as a character.
-std::string terminated(const std::string &text, CdTextCode code) {
-    return text + std::string(code == CdTextCode::msJis ? 2 : 1, '\0');
-}
-
-int widthFlag(CdTextCode code) {
-    return code == CdTextCode::msJis ? 1 : 0;
-}
-
 } // namespace
 
 struct LibburnSession::Handles {
@@ -111,7 +108,6 @@ struct LibburnSession::Handles {
 
     bool addTrack(const SessionPlan &plan, std::int64_t sectors,
                   const std::shared_ptr<SectorRing> &ring);
-    bool attach(const CdText &text, int pack, std::string CdText::Texts::*member);
 };
 
 LibburnSession::LibburnSession(std::unique_ptr<Handles> handles) : handles_(std::move(handles)) {}
@@ -156,44 +152,7 @@ bool LibburnSession::Handles::addTrack(const SessionPlan &plan, std::int64_t sec
     return true;
 }
 
-bool LibburnSession::Handles::attach(const CdText &text, int pack,
-                                     std::string CdText::Texts::*member) {
-    const auto bytes = [](std::string &payload) {
-        return reinterpret_cast<unsigned char *>(payload.data()); // NOLINT(*-reinterpret-cast)
-    };
-    const int flag = widthFlag(text.code);
-    std::string payload = terminated(text.disc.*member, text.code);
-    bool isAttached =
-        burn::burn_session_set_cdtext(disc.session.get(), 0, pack, nullptr, bytes(payload),
-                                      static_cast<int>(payload.size()), flag) > 0;
-    for (std::size_t index = 0; index < disc.tracks.size(); ++index) {
-        payload = terminated(text.tracks[index].*member, text.code);
-        isAttached = isAttached && burn::burn_track_set_cdtext(
-                                       disc.tracks[index].get(), 0, pack, nullptr, bytes(payload),
-                                       static_cast<int>(payload.size()), flag) > 0;
-    }
-    return isAttached;
-}
-
-bool LibburnSession::attachText(const CdText &text) {
-    const bool isJapanese = text.code == CdTextCode::msJis;
-    std::array<int, 8> codes{isJapanese ? 0x80 : 0x00};
-    std::array<int, 8> copyrights{};
-    std::array<int, 8> languages{isJapanese ? japanese : english};
-    if (burn::burn_session_set_cdtext_par(handles_->disc.session.get(), codes.data(),
-                                          copyrights.data(), languages.data(), 0) <= 0 ||
-        (text.hasTitles() && !handles_->attach(text, titlePack, &CdText::Texts::title)) ||
-        (text.hasPerformers() &&
-         !handles_->attach(text, performerPack, &CdText::Texts::performer))) {
-        return false;
-    }
-    const int packs =
-        burn::burn_cdtext_from_session(handles_->disc.session.get(), nullptr, nullptr, 1);
-    return packs > 0 && static_cast<std::size_t>(packs) <= mostPacks;
-}
-
-bool LibburnSession::layOut(const SessionPlan &plan, const std::optional<CdText> &text,
-                            const std::shared_ptr<SectorRing> &ring) {
+bool LibburnSession::layOut(const SessionPlan &plan, const std::shared_ptr<SectorRing> &ring) {
     // libburn's worker may still look at what it wrote before, although the drive is idle.
     handles_->retired.push_back(std::move(handles_->disc));
     handles_->disc.tracks.clear();
@@ -206,7 +165,7 @@ bool LibburnSession::layOut(const SessionPlan &plan, const std::optional<CdText>
             return false;
         }
     }
-    return !text || attachText(*text);
+    return true;
 }
 
 LibburnSession::Start LibburnSession::write(const SessionPlan &plan,
@@ -215,14 +174,15 @@ LibburnSession::Start LibburnSession::write(const SessionPlan &plan,
     if (!isIdle()) {
         return Start::busy;
     }
-    if (!layOut(plan, text, ring)) {
+    if (!layOut(plan, ring)) {
         return Start::impossible;
     }
     const OptionsHandle options(burn::burn_write_opts_new(handles_->drive()));
     burn::burn_write_opts_set_multi(options.get(), 0); // The disc is closed with the session.
     burn::burn_write_opts_set_underrun_proof(options.get(), 1); // 0 where the drive has none.
     std::array<char, BURN_REASONS_LEN> reasons{};
-    if (burn::burn_write_opts_set_write_type(options.get(), burn::BURN_WRITE_SAO,
+    if ((text && !attachText(options.get(), *text)) ||
+        burn::burn_write_opts_set_write_type(options.get(), burn::BURN_WRITE_SAO,
                                              burn::BURN_BLOCK_SAO) == 0 ||
         burn::burn_precheck_write(options.get(), handles_->disc.disc.get(), reasons.data(), 0) <=
             0) {

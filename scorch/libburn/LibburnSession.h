@@ -59,9 +59,7 @@ private:
     struct Handles;
     explicit LibburnSession(std::unique_ptr<Handles> handles);
 
-    bool layOut(const SessionPlan &plan, const std::optional<CdText> &text,
-                const std::shared_ptr<SectorRing> &ring);
-    bool attachText(const CdText &text);
+    bool layOut(const SessionPlan &plan, const std::shared_ptr<SectorRing> &ring);
 
     std::unique_ptr<Handles> handles_;
     bool isAbandoned_ = false;

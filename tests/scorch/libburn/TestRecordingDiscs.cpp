@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // Recordings that succeed, and what libburn would call a success that is none.
+#include "scorch/libburn/CdTextPacks.h"
 #include "scorch/libburn/LibburnRun.h"
 #include "tests/scorch/libburn/RecordingTest.h"
 
@@ -64,6 +65,15 @@ TEST_F(RecordingDiscs, LongestTextsAreAccepted) {
     ASSERT_TRUE(record(content));
     EXPECT_LE(scene_.disc().textPacks.size(), mostPacks);
     EXPECT_GE(scene_.disc().textPacks.size(), mostPacks - 2);
+}
+
+TEST_F(RecordingDiscs, PacksStandInTheLeadInAsTheyWereMade) {
+    FakeContent content(TrackKind::audio, {300, 400}, "黄金集");
+    content.layout(0).performer = "安"; // The disc as a whole has none.
+    ASSERT_TRUE(record(content));
+    const std::vector<CdTextPack> sent = cdTextPacks(*planCdText(content).text);
+    const std::vector<TextPack> recorded = scene_.disc().textPacks;
+    EXPECT_EQ(recorded, std::vector<TextPack>(sent.begin(), sent.end()));
 }
 
 TEST_F(RecordingDiscs, DriveThatRefusesTextsGetsTheDiscWithoutThem) {
