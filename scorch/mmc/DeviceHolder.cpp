@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/mmc/DeviceHolder.h"
 
+#include <fcntl.h>
 #include <grp.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <fstream>
+#include <optional>
 #include <string_view>
 #include <system_error>
 #include <vector>
@@ -17,12 +19,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Two names, one device or file: also where each has a node of its own.
-bool isSame(const struct stat &left, const struct stat &right) {
-    if (S_ISBLK(left.st_mode) && S_ISBLK(right.st_mode) && left.st_rdev == right.st_rdev) {
-        return true;
+/// A file, asked without waiting for a server that holds it: programs have files open that lie
+/// anywhere.
+std::optional<struct statx> statusOf(const fs::path &path) {
+    struct statx status {};
+    constexpr unsigned wanted = STATX_TYPE | STATX_INO;
+    if (::statx(AT_FDCWD, path.c_str(), AT_STATX_DONT_SYNC, wanted, &status) != 0) {
+        return std::nullopt;
     }
-    return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
+    return status;
+}
+
+/// Two names, one device or file: also where each has a node of its own.
+bool isSame(const struct statx &left, const struct statx &right) {
+    if (S_ISBLK(left.stx_mode) && S_ISBLK(right.stx_mode)) {
+        return left.stx_rdev_major == right.stx_rdev_major &&
+               left.stx_rdev_minor == right.stx_rdev_minor;
+    }
+    return left.stx_dev_major == right.stx_dev_major && left.stx_dev_minor == right.stx_dev_minor &&
+           left.stx_ino == right.stx_ino;
 }
 
 bool isProcess(const fs::path &entry) {
@@ -32,16 +47,31 @@ bool isProcess(const fs::path &entry) {
     });
 }
 
-bool hasOpen(const fs::path &process, const struct stat &wanted) {
+enum class Use { none, reading, writing };
+
+/// The access mode among the flags that the kernel tells of a descriptor, in octal.
+Use useOf(const fs::path &descriptorInfo) {
+    std::ifstream file(descriptorInfo);
+    std::string word;
+    while (file >> word && word != "flags:") {
+    }
+    unsigned flags = 0;
+    file >> std::oct >> flags;
+    return !file || (flags & O_ACCMODE) == O_RDONLY ? Use::reading : Use::writing;
+}
+
+/// The most that a process has the file open for.
+Use useOf(const fs::path &process, const struct statx &wanted) {
+    Use use = Use::none;
     std::error_code ignored; // Processes of others, and those that end meanwhile, tell nothing.
     for (fs::directory_iterator descriptor(process / "fd", ignored), end;
          !ignored && descriptor != end; descriptor.increment(ignored)) {
-        struct stat status {};
-        if (::stat(descriptor->path().c_str(), &status) == 0 && isSame(status, wanted)) {
-            return true;
+        const auto status = statusOf(descriptor->path());
+        if (status && isSame(*status, wanted)) {
+            use = std::max(use, useOf(process / "fdinfo" / descriptor->path().filename()));
         }
     }
-    return false;
+    return use;
 }
 
 std::string describe(const fs::path &process) {
@@ -51,23 +81,41 @@ std::string describe(const fs::path &process) {
     return (name.empty() ? std::string("?") : name) + " (" + process.filename().native() + ")";
 }
 
-} // namespace
-
-std::string holderOf(const fs::path &node) {
-    struct stat wanted {};
-    if (::stat(node.c_str(), &wanted) != 0) {
+/// The first other process that has the node open for `least`, and the one that has it open for
+/// the most before others.
+std::string userOf(const fs::path &node, Use least) {
+    const auto wanted = statusOf(node);
+    if (!wanted) {
         return {};
     }
     const std::string self = std::to_string(::getpid());
+    std::string reader;
     std::error_code ignored;
     for (fs::directory_iterator process("/proc", ignored), end; !ignored && process != end;
          process.increment(ignored)) {
         const fs::path &path = process->path();
-        if (isProcess(path) && path.filename() != self && hasOpen(path, wanted)) {
+        if (!isProcess(path) || path.filename() == self) {
+            continue;
+        }
+        const Use use = useOf(path, *wanted);
+        if (use == Use::writing) {
             return describe(path);
         }
+        if (use == Use::reading && least == Use::reading && reader.empty()) {
+            reader = describe(path);
+        }
     }
-    return {};
+    return reader;
+}
+
+} // namespace
+
+std::string holderOf(const fs::path &node) {
+    return userOf(node, Use::reading);
+}
+
+std::string writerOf(const fs::path &node) {
+    return userOf(node, Use::writing);
 }
 
 std::string groupOf(const fs::path &node) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/mmc/DriveExamination.h"
 
+#include "scorch/mmc/DeviceHolder.h"
 #include "scorch/mmc/DriveErrors.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace scorch {
@@ -68,6 +70,15 @@ DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &st
     Result<MmcDevice, MmcError> device = drive.open(drive.node);
     if (!device) {
         fail(findings, drive, device.error());
+        return findings;
+    }
+    // In the middle of a recording a drive is not to be asked about its disc: it may break off.
+    if (!writerOf(drive.node).empty()) {
+        fail(findings, drive,
+             {.kind = MmcError::Kind::busy,
+              .sense = {},
+              .systemError = EBUSY,
+              .command = "examination"});
         return findings;
     }
     const Result<MediaEvent, MmcError> event = mediaEvent(*device, std::nullopt);

@@ -85,9 +85,13 @@ void toExtended(const struct stat &status, struct statx &extended) {
     extended.stx_uid = status.st_uid;
     extended.stx_gid = status.st_gid;
     extended.stx_ino = status.st_ino;
+    extended.stx_size = static_cast<std::uint64_t>(status.st_size);
     extended.stx_blksize = static_cast<std::uint32_t>(status.st_blksize);
+    extended.stx_dev_major = major(status.st_dev);
+    extended.stx_dev_minor = minor(status.st_dev);
     extended.stx_rdev_major = major(status.st_rdev);
     extended.stx_rdev_minor = minor(status.st_rdev);
+    extended.stx_atime.tv_sec = status.st_atim.tv_sec;
     extended.stx_mtime.tv_sec = status.st_mtim.tv_sec;
     extended.stx_ctime.tv_sec = status.st_ctim.tv_sec;
 }

@@ -94,6 +94,8 @@ TEST_F(DeviceNode, LooksLikeABlockDevice) {
     struct statx extended {};
     ASSERT_EQ(statx(AT_FDCWD, device.c_str(), 0, STATX_ALL, &extended), 0);
     EXPECT_EQ(extended.stx_rdev_major, 11U);
+    EXPECT_EQ(extended.stx_dev_minor, minor(status.st_dev));
+    EXPECT_EQ(extended.stx_ino, status.st_ino);
     EXPECT_EQ(access(device.c_str(), R_OK | W_OK), 0);
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/support/FileDescriptor.h"
 #include "tests/recorder/DriveScene.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/system/ScorchProcess.h"
@@ -6,6 +7,8 @@
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <fcntl.h>
+#include <unistd.h>
 
 using recorder::DiscKind;
 using recorder::DriveScene;
@@ -122,6 +125,22 @@ TEST_F(ScorchDrives, LookingAtADriveLeavesItUnlockedAndFree) {
     for (const char *command : {"\n1e", "\n1b", "\n55", "\n5b", "\nbb"}) {
         EXPECT_THAT(log, Not(HasSubstr(command)));
     }
+}
+
+TEST_F(ScorchDrives, ADriveOnWhichAnotherProgramBurnsIsNotAskedAboutItsDisc) {
+    drive().makeDisc(recorder::blankDisc(DiscKind::CdR));
+    lines(); // Makes the file that stands for the device.
+    const scorch::FileDescriptor other(
+        ::open((drive().folder() / "node").c_str(), O_RDWR | O_CLOEXEC)); // NOLINT(*-vararg)
+    ASSERT_TRUE(other.valid());
+    drive().startLog();
+    const std::string process = "(" + std::to_string(::getpid()) + ")";
+    EXPECT_THAT(lines(), HasSubstr(process + " uses the drive"));
+    EXPECT_EQ(burn({}), 1);
+    EXPECT_THAT(errors_, HasSubstr(process + " uses the drive"));
+    // Readiness, table of contents, configuration, disc and track information.
+    EXPECT_THAT(drive().log(), Not(testing::ContainsRegex("(^|\n)[0-9]+ (00|43|46|51|52) ")));
+    EXPECT_THAT(drive().log(), testing::ContainsRegex("(^|\n)[0-9]+ 12 ")) << "but who it is";
 }
 
 TEST_F(ScorchDrives, BurnTakesADriveByItsNode) {
