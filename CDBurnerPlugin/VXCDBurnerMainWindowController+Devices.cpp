@@ -13,6 +13,16 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QToolTip>
+
+namespace {
+
+/// Rich text, so that a tool tip breaks its lines; nothing for nothing.
+QString wrappedToolTip(const QString &text) {
+    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
+} // namespace
 
 std::vector<std::string> VXCDBurnerMainWindowController::deviceNames() const {
     // Before the first search is complete the question would make the window wait for it.
@@ -41,8 +51,26 @@ void VXCDBurnerMainWindowController::setSelectedDevice(const std::string &device
 }
 
 void VXCDBurnerMainWindowController::showErrorTips(const char *key) {
+    // The drive's own words say more than the short text of their kind.
+    const QString problem =
+        QString::fromStdString(deviceOrAbsent(_selectedDevice).description().problem);
+    _errorTipsView->setAccessibleDescription(problem);
     _errorTipsView->setErrorTips(localizedString(key));
+    _discSetStack->setToolTip(wrappedToolTip(problem)); // The strip itself takes no pointer.
     _discSetStack->setCurrentWidget(_errorTipsView);
+}
+
+void VXCDBurnerMainWindowController::tellOfFailedEject() {
+    const ScorcherDevice &device = deviceOrAbsent(_selectedDevice);
+    if (!_isEjecting || device.isCheckingDisc()) {
+        return;
+    }
+    _isEjecting = false;
+    const QString problem = QString::fromStdString(device.description().problem);
+    if (!problem.isEmpty()) {
+        QToolTip::showText(_btnEject->mapToGlobal(_btnEject->rect().bottomLeft()),
+                           wrappedToolTip(problem), _btnEject);
+    }
 }
 
 void VXCDBurnerMainWindowController::updateDeviceStatus() {
@@ -61,6 +89,7 @@ void VXCDBurnerMainWindowController::updateDeviceStatus() {
     }
     if (device.isDiscInDevice() && device.isCDDisc() && device.isDiscBlank()) {
         _volumeName->setText(localizedString("Untitled"));
+        _discSetStack->setToolTip(QString());
         _discSetStack->setCurrentWidget(_discSetView);
         _volumeName->setFocus();
         _volumeName->selectAll();
@@ -117,6 +146,7 @@ void VXCDBurnerMainWindowController::showTypeIcon() {
 }
 
 void VXCDBurnerMainWindowController::selectDevice() {
+    _isEjecting = false;
     _selectedDevice.reset();
     setSelectedDevice(_devicePopup->currentData().toByteArray().toStdString());
     updateDeviceStatus();
@@ -145,12 +175,14 @@ void VXCDBurnerMainWindowController::followBusyBurner() {
 }
 
 void VXCDBurnerMainWindowController::eject() {
+    _isEjecting = true;
     deviceOrAbsent(_selectedDevice).eject();
 }
 
 void VXCDBurnerMainWindowController::deviceStatusDidChanged() {
     updateDeviceStatus();
     updateUI();
+    tellOfFailedEject();
 }
 
 void VXCDBurnerMainWindowController::deviceDidDisappeared(const std::string &deviceName) {

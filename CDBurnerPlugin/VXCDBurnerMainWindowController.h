@@ -172,6 +172,8 @@ private:
     int indexOfDeviceItem(const std::string &deviceName) const;
     void setSelectedDevice(const std::string &deviceName);
     void showErrorTips(const char *key);
+    /// Says so where the user has pressed, if the disc did not come out.
+    void tellOfFailedEject();
     void showTypeIcon();
 
     // The list.
@@ -230,6 +232,7 @@ private:
     QObject _connections; // The controls' connections end with it.
     std::shared_ptr<VXCDBurnerMainWindowController> _keptForEnumeration;
     bool _devicesAreKnown = false;
+    bool _isEjecting = false; // Asked for, and the drive has not said how it went.
     bool _isDetached = false;
     QPointer<QMessageBox> _cancelAlert;
     QPointer<QMessageBox> _storageAlert;

@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>كُتب القرص الموجود في المحرك «&#x2068;%@&#x2069;»، لكنه ليس كما ينبغي أن يكون. لا تعتمد على هذا القرص: احرق القائمة من جديد على قرص آخر.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>تعذر على المحرك «&#x2068;%@&#x2069;» فتح الدرج. تأكد من عدم وجود ما يعيقه، ثم أعد المحاولة.</translation>
+    </message>
 </context>
 </TS>

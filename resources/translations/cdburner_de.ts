@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Die CD im Laufwerk „%@“ wurde beschrieben, ist aber nicht so, wie sie sein sollte. Verlassen Sie sich nicht auf diese CD: Brennen Sie die Liste noch einmal auf eine andere.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>Das Laufwerk „%@“ konnte seine Schublade nicht öffnen. Sorgen Sie dafür, dass nichts im Weg ist, und versuchen Sie es noch einmal.</translation>
+    </message>
 </context>
 </TS>

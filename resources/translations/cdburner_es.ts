@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>El CD de la unidad «%@» se ha grabado, pero no está como debería. No se fíe de este CD: grabe la lista de nuevo en otro.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>La unidad «%@» no ha podido abrir la bandeja. Compruebe que nada la obstruye e inténtelo de nuevo.</translation>
+    </message>
 </context>
 </TS>

@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Le CD du lecteur «&#xa0;%@&#xa0;» a été gravé, mais il n’est pas tel qu’il devrait être. Ne vous fiez pas à ce CD&#xa0;: gravez de nouveau la liste sur un autre.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>Le lecteur «&#xa0;%@&#xa0;» n’a pas pu ouvrir son tiroir. Vérifiez que rien ne le gêne, puis réessayez.</translation>
+    </message>
 </context>
 </TS>

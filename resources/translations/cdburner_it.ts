@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Il CD nell’unità «%@» è stato scritto, ma non è come dovrebbe essere. Non fare affidamento su questo CD: masterizzare di nuovo l’elenco su un altro.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>L’unità «%@» non è riuscita ad aprire il cassetto. Verifica che nulla lo ostacoli e riprova.</translation>
+    </message>
 </context>
 </TS>

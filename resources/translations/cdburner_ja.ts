@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>ドライブ「%@」のディスクは書き込まれましたが、正しい状態になっていません。このディスクは信頼せず、別のディスクにリストを書き込み直してください。</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>ドライブ「%@」のトレイを開けませんでした。妨げになるものがないことを確認して、もう一度お試しください。</translation>
+    </message>
 </context>
 </TS>

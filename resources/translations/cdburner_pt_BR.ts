@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>O CD na unidade “%@” foi gravado, mas não está como deveria. Não confie neste CD: grave a lista novamente em outro.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>A unidade “%@” não conseguiu abrir a bandeja. Verifique se não há nada no caminho e tente novamente.</translation>
+    </message>
 </context>
 </TS>

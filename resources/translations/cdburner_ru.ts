@@ -700,5 +700,9 @@
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
         <translation>Диск в приводе «%@» записан, но не так, как должен быть. Не полагайтесь на этот диск: запишите список ещё раз на другой.</translation>
     </message>
+    <message>
+        <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
+        <translation>Приводу «%@» не удалось открыть лоток. Убедитесь, что ему ничто не мешает, и повторите попытку.</translation>
+    </message>
 </context>
 </TS>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/burner/BurnErrors.h"
 
-#include "engine/ScorchString.h"
 #include "scorch/support/Text.h"
 #include "scorch/support/Utf8.h"
 
@@ -10,18 +9,6 @@
 #include <utility>
 
 namespace scorch {
-
-ScorchError nothingToBurnError() {
-    return {ScorchErrorCode::nothingToBurn,
-            localized("There is nothing to burn: the list is empty. Add files to it first.")};
-}
-
-ScorchError tooManyTracksError(std::size_t tracks) {
-    return {ScorchErrorCode::tooManyTracks,
-            localized("An audio CD takes %@ songs at most, and the list has %@. Remove some of "
-                      "them and burn them on another disc.",
-                      {std::to_string(maximumTracks), std::to_string(tracks)})};
-}
 
 ScorchError noDriveError(const std::string &name) {
     if (name.empty()) {
@@ -45,12 +32,6 @@ ScorchError burnerBurningError() {
             localized("The list is being burned already. Wait until that disc is finished.")};
 }
 
-ScorchError driveBusyError(const std::string &name) {
-    return {
-        ScorchErrorCode::driveBusy,
-        localized("The drive “%@” is busy with another disc. Wait until it has finished.", {name})};
-}
-
 ScorchError finishedBeforeStopError() {
     return {ScorchErrorCode::finishedBeforeStop,
             localized("The disc was complete before the burn could be stopped. It can be used.")};
@@ -62,19 +43,6 @@ ScorchError internalError(const std::string &detail) {
                       "please report it.",
                       {detail}),
             detail};
-}
-
-ScorchError doesNotFitError(TrackKind kind, std::int64_t needed, std::int64_t free) {
-    const auto amount = [kind](std::int64_t sectors) {
-        return kind == TrackKind::audio
-                   ? stringWithDurationFramesEnabled(sectors, false)
-                   : stringWithFilesize(sectors * static_cast<std::int64_t>(dataSectorBytes));
-    };
-    return {ScorchErrorCode::doesNotFit,
-            localized("The list does not fit on the disc: it needs %@, and the disc has room for "
-                      "%@. Remove something from the list, or insert a larger disc.",
-                      {amount(needed), amount(free)}),
-            std::to_string(needed) + " sectors, free " + std::to_string(free)};
 }
 
 ScorchError sourceError(const std::filesystem::path &path, int error) {

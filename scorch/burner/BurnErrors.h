@@ -11,20 +11,14 @@
 
 namespace scorch {
 
-/// The errors of a burn, each with a text that says what happened, to what, and what can be done.
-/// Any thread.
+/// The errors of a burn that are not the disc's (see DiscError.h), each with a text that says what
+/// happened, to what, and what can be done. Any thread.
 
-ScorchError nothingToBurnError();
-ScorchError tooManyTracksError(std::size_t tracks);
 ScorchError noDriveError(const std::string &name);
 ScorchError burnerCheckingError();
 ScorchError burnerBurningError();
-ScorchError driveBusyError(const std::string &name);
 ScorchError finishedBeforeStopError();
 ScorchError internalError(const std::string &detail);
-
-/// The disc is too small. Sectors; the text has playing times for sound and sizes for data.
-ScorchError doesNotFitError(TrackKind kind, std::int64_t needed, std::int64_t free);
 
 /// A song that is gone or cannot be opened, from what the system answered (an errno value).
 ScorchError sourceError(const std::filesystem::path &path, int error);

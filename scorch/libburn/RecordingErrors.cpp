@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/libburn/RecordingErrors.h"
 
-#include "engine/ScorchString.h"
 #include "scorch/mmc/DriveComplaint.h"
 #include "scorch/mmc/DriveExamination.h"
 #include "scorch/support/Text.h"
@@ -13,20 +12,6 @@ namespace scorch {
 namespace {
 
 using Code = ScorchErrorCode;
-
-std::string amountText(TrackKind kind, std::int64_t sectors) {
-    return kind == TrackKind::audio
-               ? stringWithDurationFramesEnabled(sectors, false)
-               : stringWithFilesize(sectors * static_cast<std::int64_t>(dataSectorBytes));
-}
-
-ScorchError doesNotFitError(const SessionPlan &plan, std::int64_t free) {
-    return {Code::doesNotFit,
-            localized("The list does not fit on the disc: it needs %@, and the disc has room for "
-                      "%@. Remove something from the list, or insert a larger disc.",
-                      {amountText(plan.kind, plan.total()), amountText(plan.kind, free)}),
-            std::to_string(plan.total()) + " sectors, free " + std::to_string(free)};
-}
 
 /// The first that `is`, or none.
 template <class Predicate>
@@ -44,23 +29,17 @@ MmcError mmcError(MmcError::Kind kind, const LibburnMessage &message) {
 std::optional<ScorchError> refusalOf(const MediumState &medium, const SessionPlan &plan,
                                      const std::string &driveName) {
     if (plan.sectors.empty()) {
-        return ScorchError(
-            Code::nothingToBurn,
-            localized("There is nothing to burn: the list is empty. Add files to it first."));
+        return nothingToBurnError();
     }
     if (plan.sectors.size() > maximumTracks) {
-        return ScorchError(
-            Code::tooManyTracks,
-            localized("An audio CD takes %@ songs at most, and the list has %@. Remove some of "
-                      "them and burn them on another disc.",
-                      {std::to_string(maximumTracks), std::to_string(plan.sectors.size())}));
+        return tooManyTracksError(plan.sectors.size());
     }
     const DriveState state{.canWriteCd = true, .checking = false, .disc = discState(medium)};
     if (auto error = discError(driveName, state)) {
         return error;
     }
     if (plan.total() > medium.freeSectors) {
-        return doesNotFitError(plan, medium.freeSectors);
+        return doesNotFitError(plan.kind, plan.total(), medium.freeSectors);
     }
     return std::nullopt;
 }

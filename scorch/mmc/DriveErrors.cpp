@@ -66,6 +66,8 @@ constexpr std::string_view unsupported = localizableKey(
     "The drive “%@” refuses to write in the way that is needed here. Use another drive.");
 constexpr std::string_view locked = localizableKey(
     "The disc cannot be taken out of the drive “%@”: another program has locked it in.");
+constexpr std::string_view jammed = localizableKey(
+    "The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.");
 
 /// The first line that fits counts. Codes: MMC-5, annex F; SPC-3, annex D.
 constexpr std::array meanings = {
@@ -87,6 +89,7 @@ constexpr std::array meanings = {
     SenseMeaning{3, 0x02, any, Code::driveFailed, readError},
     SenseMeaning{3, 0x57, any, Code::driveFailed, readError}, // No table of contents.
     SenseMeaning{3, any, any, Code::writeFailed, writeError},
+    SenseMeaning{4, 0x53, 0x00, Code::driveFailed, jammed},
     SenseMeaning{4, any, any, Code::driveFailed, hardware},
     SenseMeaning{5, 0x63, any, Code::doesNotFit, tooSmall},
     SenseMeaning{5, 0x21, 0x00, Code::doesNotFit, tooSmall},

@@ -113,6 +113,9 @@ void OpticalDrive::take(const DriveFindings &findings) {
         state_.canWriteCd = findings.canWriteCd.value_or(state_.canWriteCd);
         lastGlance_ = findings.tray;
         obstacle_ = findings.obstacle;
+        if (findings.medium != medium_) {
+            ejectFailure_.reset(); // It was about the disc before.
+        }
         medium_ = findings.medium;
         if (wanted_ != Wanted::openly) { // Else it has changed again, and is still being checked.
             state_.checking = false;

@@ -130,6 +130,7 @@ void OpticalDrive::mediumChanged(MediumNews news) {
             return; // It will be examined when it is looked at again.
         }
         if (news == MediumNews::changed) {
+            ejectFailure_.reset();
             wantOpenly();
         } else {
             wanted_ = std::max(wanted_, Wanted::quietly);
@@ -140,14 +141,23 @@ void OpticalDrive::mediumChanged(MediumNews news) {
 }
 
 void OpticalDrive::eject() {
-    const std::lock_guard lock(mutex_);
-    if (recording_ || ended_) {
-        return;
+    DriveState before;
+    {
+        const std::lock_guard lock(mutex_);
+        if (recording_ || ended_) {
+            return;
+        }
+        before = state_;
+        ejectWanted_ = true;
+        ejectFailure_.reset();
+        if (watched_) {
+            wantOpenly(); // A tray takes seconds, and what it holds then is to be found out.
+        }
+        work_.request_stop(); // A disc that is being examined goes out all the same.
+        ensureThread();
+        changed_.notify_all();
     }
-    ejectWanted_ = true;
-    work_.request_stop(); // A disc that is being examined goes out all the same.
-    ensureThread();
-    changed_.notify_all();
+    tellIfChanged(before);
 }
 
 void OpticalDrive::requestEnd() {
@@ -194,13 +204,11 @@ Outcome<std::unique_ptr<DiscRecording>> OpticalDrive::beginRecording(const DiscC
     {
         const std::lock_guard lock(mutex_);
         if (recording_) {
-            return Interruption(ScorchError(
-                ScorchErrorCode::driveBusy,
-                localized("The drive “%@” is busy with another disc. Wait until it has finished.",
-                          {examined_.name})));
+            return Interruption(driveBusyError(examined_.name));
         }
         recording_ = true;
         wanted_ = Wanted::nothing; // The examination that follows is the newest there can be.
+        ejectWanted_ = false;      // And a tray must not open behind the burn.
         work_.request_stop();
     }
     if (auto prepared = prepareRecording(stop); !prepared) {

@@ -18,13 +18,14 @@ std::string restOf(const TextLine &line) {
 }
 
 bool parseFlag(std::string_view key, Faults &faults) {
-    const std::array<std::pair<std::string_view, bool *>, 6> flags = {
+    const std::array<std::pair<std::string_view, bool *>, 7> flags = {
         {{"power-calibration", &faults.powerCalibration},
          {"refuse-cd-text", &faults.refuseCdText},
          {"vanished", &faults.vanished},
          {"no-device", &faults.noDevice},
          {"busy", &faults.busy},
-         {"no-permission", &faults.noPermission}}};
+         {"no-permission", &faults.noPermission},
+         {"jammed", &faults.jammed}}};
     for (const auto &[name, flag] : flags) {
         if (name == key) {
             *flag = true;

@@ -30,6 +30,7 @@ namespace recorder {
 ///     no-device               the same, but the node is still there: opening it gives ENXIO
 ///     busy                    another program holds it: EBUSY for whoever wants it exclusively
 ///     no-permission           EACCES
+///     jammed                  the tray cannot be opened
 ///     slow X                  moves X sectors a second
 ///     becoming-ready N        after a disc was put in, the first N commands find it not ready (1)
 ///     long-operation N        an IMMED operation is in progress for N polls (1)
@@ -49,6 +50,7 @@ struct Faults {
     bool noDevice = false;
     bool busy = false;
     bool noPermission = false;
+    bool jammed = false;
     int sectorsPerSecond = 0; ///< 0: at once.
     unsigned becomingReady = 1;
     unsigned longOperation = 1;

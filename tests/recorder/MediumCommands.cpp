@@ -28,6 +28,9 @@ Answer startStopUnit(Device &device, const Command &command) {
     if (device.memory.isLocked && !device.memory.isTrayOpen) {
         return Answer::check(sense::kRemovalPrevented);
     }
+    if (device.faults.jammed) {
+        return Answer::check(sense::kEjectFailed);
+    }
     breakOff(device);
     openTray(device.memory);
     // Whoever asked for it need not be told.

@@ -42,6 +42,7 @@ inline constexpr Sense kInvalidFieldInParameters{5, 0x26, 0x00};
 inline constexpr Sense kCommandSequenceError{5, 0x2c, 0x00};
 inline constexpr Sense kCannotWriteIncompatibleMedium{5, 0x30, 0x05};
 inline constexpr Sense kIncompatibleFormat{5, 0x30, 0x02};
+inline constexpr Sense kEjectFailed{4, 0x53, 0x00};
 inline constexpr Sense kRemovalPrevented{5, 0x53, 0x02};
 inline constexpr Sense kEndOfUserArea{5, 0x63, 0x00};
 inline constexpr Sense kIllegalModeForTrack{5, 0x64, 0x00};

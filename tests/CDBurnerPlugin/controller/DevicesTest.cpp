@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/CDBurnerPlugin/controller/ControllerTest.h"
 
+#include "CDBurnerPlugin/ErrorTipsView.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
 #include "CDBurnerPlugin/VXDragImageView.h"
 
+#include <QStackedWidget>
+#include <QToolTip>
+
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 class Devices : public ControllerTest {
 protected:
@@ -298,4 +303,42 @@ TEST_F(Devices, EjectGoesToTheSelectedDriveAndChangesNothing) {
     EXPECT_THAT(engine.ejected, ElementsAre("Drive"));
     EXPECT_TRUE(showsVolumeName());
     EXPECT_TRUE(burnButton()->isEnabled());
+}
+
+TEST_F(Devices, TheDrivesOwnWordsStandInTheTipOfTheBox) {
+    FakeDrive &drive = engine.addDrive("Drive");
+    drive.cannotBurn = true;
+    drive.description.problem = "You are not <allowed> to use it.";
+    open();
+    const auto *box = find<QStackedWidget>("_discSetStack");
+    EXPECT_THAT(box->toolTip().toStdString(), HasSubstr("not &lt;allowed&gt; to use it."));
+    EXPECT_EQ(find<ErrorTipsView>("_errorTipsView")->accessibleDescription(),
+              QStringLiteral("You are not <allowed> to use it."));
+    changeDisc([](FakeDrive &known) {
+        known.cannotBurn = false;
+        known.description.problem.clear();
+    });
+    EXPECT_TRUE(box->toolTip().isEmpty());
+}
+
+TEST_F(Devices, DiscThatDoesNotComeOutIsExplainedAtTheEjectButton) {
+    openWithSongs(1);
+    find<QPushButton>("_btnEject")->click();
+    changeDisc([](FakeDrive &drive) { drive.isChecking = true; });
+    EXPECT_FALSE(QToolTip::isVisible());
+    changeDisc([](FakeDrive &drive) {
+        drive.isChecking = false;
+        drive.description.problem = "The tray is stuck.";
+    });
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_THAT(QToolTip::text().toStdString(), HasSubstr("The tray is stuck."));
+    QToolTip::hideText();
+}
+
+TEST_F(Devices, ProblemThatNobodyAskedForDoesNotPopUp) {
+    openWithSongs(1);
+    find<QPushButton>("_btnEject")->click();
+    changeDisc([](FakeDrive &drive) { drive.hasDisc = false; }); // It came out.
+    changeDisc([](FakeDrive &drive) { drive.description.problem = "It is silent."; });
+    EXPECT_FALSE(QToolTip::isVisible());
 }

@@ -64,7 +64,7 @@ TEST(FaultsText, EveryStatementIsUnderstood) {
         parseFaults("# a comment\ndisc other #2\ntray open\nwrite-error 10\n"
                     "loss-of-streaming 20\npower-calibration\nread-error 30\nflip 40 5\n"
                     "read-offset -6\nrefuse-cd-text\nsilent 7\nvanished\nno-device\nbusy\n"
-                    "no-permission\nslow 75\nbecoming-ready 3\nlong-operation 4\n",
+                    "no-permission\njammed\nslow 75\nbecoming-ready 3\nlong-operation 4\n",
                     error);
     ASSERT_TRUE(faults) << error;
     Faults expected;
@@ -77,6 +77,7 @@ TEST(FaultsText, EveryStatementIsUnderstood) {
     expected.flipByte = 5;
     expected.readOffset = -6;
     expected.silentMs = 7;
+    expected.jammed = true;
     expected.powerCalibration = expected.refuseCdText = expected.vanished = true;
     expected.noDevice = expected.busy = expected.noPermission = true;
     expected.sectorsPerSecond = 75;

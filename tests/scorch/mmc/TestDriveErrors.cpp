@@ -49,6 +49,7 @@ TEST(DriveErrors, EachSenseHasItsCategoryAndItsAdvice) {
         {{5, 0x72, 0x03}, Code::writeFailed, "could not close the disc"},
         {{5, 0x63, 0x00}, Code::doesNotFit, "less room than it said"},
         {{5, 0x53, 0x02}, Code::driveBusy, "locked it in"},
+        {{4, 0x53, 0x00}, Code::driveFailed, "could not open its tray"},
         {{5, 0x26, 0x00}, Code::driveFailed, "refuses to write"},
         {{5, 0x20, 0x00}, Code::driveFailed, "refuses to write"},
         {{6, 0x28, 0x00}, Code::noDisc, "taken out"},

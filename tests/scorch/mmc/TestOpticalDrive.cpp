@@ -178,6 +178,40 @@ TEST_F(OpticalDriveTest, EjectPutsTheDiscOutAlsoAgainstALock) {
     EXPECT_EQ(drive->description().problem, "");
 }
 
+TEST_F(OpticalDriveTest, TheDriveIsBeingCheckedWhileItsTrayOpens) {
+    scene().makeDisc(blankCd());
+    const auto drive = makeDrive();
+    drive->setWatched(true);
+    EXPECT_TRUE(waitFor([&] { return drive->state().disc.blank; }));
+    std::atomic<int> reports = 0;
+    drive->setStateObserver([&reports] { ++reports; });
+    hold();
+    drive->eject();
+    EXPECT_TRUE(drive->state().checking);
+    EXPECT_FALSE(drive->state().disc.present);
+    EXPECT_EQ(reports, 1);
+    release();
+    EXPECT_TRUE(waitUntilChecked(*drive));
+    EXPECT_FALSE(drive->state().disc.present);
+    EXPECT_TRUE(waitFor([&] { return reports == 2; }));
+    drive->setStateObserver({});
+}
+
+TEST_F(OpticalDriveTest, ATrayThatDoesNotOpenIsExplainedUntilTheDiscChanges) {
+    scene().makeDisc(blankCd());
+    const auto drive = makeDrive();
+    drive->setWatched(true);
+    EXPECT_TRUE(waitFor([&] { return drive->state().disc.blank; }));
+    scene().control("jammed\n");
+    drive->eject();
+    EXPECT_TRUE(waitUntilChecked(*drive));
+    EXPECT_TRUE(drive->state().disc.blank);
+    EXPECT_THAT(drive->description().problem, HasSubstr("could not open its tray"));
+    scene().control("tray open #1\n");
+    EXPECT_TRUE(waitFor([&] { return !drive->state().disc.present; }));
+    EXPECT_EQ(drive->description().problem, "");
+}
+
 TEST_F(OpticalDriveTest, DescriptionHasAllThatIsKnown) {
     scene().makeDisc(blankCd());
     const auto drive = makeDrive();
