@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QValidator>
@@ -84,6 +84,16 @@ bool VolumeNameEdit::event(QEvent *event) {
     const bool isHandled = QLineEdit::event(event);
     applyReplacement();
     return isHandled;
+}
+
+void VolumeNameEdit::keyPressEvent(QKeyEvent *event) {
+    // Alt with a letter is somebody's mnemonic. While its control is disabled it comes here, and a
+    // line edit would take it for typing.
+    if (event->modifiers().testFlag(Qt::AltModifier) && !event->text().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 void VolumeNameEdit::applyReplacement() {

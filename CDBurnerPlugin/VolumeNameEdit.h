@@ -24,6 +24,9 @@ public:
 
     bool event(QEvent *event) override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     class Vetting;
 

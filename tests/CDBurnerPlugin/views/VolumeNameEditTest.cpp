@@ -56,6 +56,14 @@ protected:
     VolumeNameEdit field_;
 };
 
+TEST_F(VolumeNameEditTest, MnemonicOfADisabledControlIsNotTyped) {
+    start(QStringLiteral("name"), 4);
+    QTest::keyClick(&field_, 'b', Qt::AltModifier);
+    expect("name", 4);
+    QTest::keyClick(&field_, 'b');
+    expect("nameb", 5);
+}
+
 TEST_F(VolumeNameEditTest, TypingStopsAtTheLimit) {
     QTest::keyClicks(&field_, QStringLiteral("abcdefgh"));
     expect("abcdef", 6);
