@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "host/SongList.h"
+#include "tests/support/ProcessorTime.h"
 
 #include <QCborArray>
 #include <QCborMap>
@@ -33,9 +34,9 @@ QCborMap songWith(const QString &key, const QCborValue &value) {
 
 /// Whether `data` is refused, in a time that no one notices.
 bool isRefusedQuickly(const QByteArray &data) {
-    const auto start = std::chrono::steady_clock::now();
+    const auto start = processorTimeOfThread();
     const bool isRefused = !decodeSongList(data);
-    return isRefused && std::chrono::steady_clock::now() - start < 1s;
+    return isRefused && processorTimeOfThread() - start < 1s;
 }
 
 TEST(SongList, ComesBackByteForByte) {

@@ -3,13 +3,15 @@
 
 #include "CDBurnerPlugin/VXDragImageView.h"
 #include "CDBurnerPlugin/VXHelpWindow.h"
+#include "tests/support/ProcessorTime.h"
 
-#include <QElapsedTimer>
 #include <QFontInfo>
 #include <QFrame>
 #include <QMimeData>
 #include <QScreen>
 #include <QToolButton>
+
+#include <chrono>
 
 class Window : public ControllerTest {};
 
@@ -101,6 +103,17 @@ TEST_F(Window, AFullListCanBeMadeNoSmallerThanAnEmptyOne) {
     EXPECT_EQ(controller->window()->minimumSizeHint(), empty);
 }
 
+TEST_F(Window, PictureAndCaptionStayInsideTheEmptyListAtItsSmallest) {
+    openWithBlankDisc();
+    MainWindow *const window = controller->window();
+    window->resize(1, 1);
+    QApplication::processEvents();
+    const QWidget *const inside = table()->viewport();
+    const QRect list(inside->mapTo(window, QPoint()), inside->size());
+    EXPECT_TRUE(list.contains(find<QWidget>("_dragImageView")->geometry()));
+    EXPECT_TRUE(list.contains(find<QWidget>("_txtDragHere")->geometry()));
+}
+
 TEST_F(Window, PictureTakesDropsEvenWhileTheSheetIsUp) {
     open();
     startBurn();
@@ -148,15 +161,14 @@ TEST_F(Window, HelpBubbleStandsBesideTheBox) {
 TEST_F(Window, TenThousandAcceptedFilesKeepTheMainLoopFree) {
     openWithBlankDisc();
     constexpr int count = 10000;
-    QElapsedTimer elapsed;
-    elapsed.start();
+    const auto begin = processorTimeOfThread();
     for (int number = 0; number < count; ++number) {
         engine.audio().append("Song", 75);
         engine.audio().delegate()->fileDidAdded(nullptr);
     }
     drainMainQueue();
     EXPECT_EQ(rowCount(), count);
-    // Half a second on a machine that does nothing else; the limit is for one that is busy.
-    EXPECT_LT(elapsed.elapsed(), 5000);
-    RecordProperty("milliseconds", static_cast<int>(elapsed.elapsed()));
+    // A small part of this, if nothing grows with the rows; what would grow with the rows takes
+    // many seconds.
+    EXPECT_LT(processorTimeOfThread() - begin, std::chrono::seconds(5));
 }

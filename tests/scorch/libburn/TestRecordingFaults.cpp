@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // What a drive can do wrong, and requests to stop.
 #include "tests/scorch/libburn/RecordingTest.h"
+#include "tests/support/GivenTime.h"
 
 #include <gmock/gmock.h>
 
@@ -12,8 +13,6 @@ using namespace std::chrono_literals;
 using testing::HasSubstr;
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 class RecordingFaults : public RecordingTest {
 protected:
@@ -101,9 +100,9 @@ TEST_F(RecordingFaults, DriveThatFallsSilentBeforeTheFirstCommandIsSilent) {
 
 TEST_F(RecordingFaults, DriveThatNeverComesToRestIsGivenUp) {
     patience_.rest = 100ms;
-    const auto begin = Clock::now();
+    const GivenTime taken;
     EXPECT_EQ(failureWhen("silent 1000").category(), ScorchErrorCode::driveSilent);
-    EXPECT_LT(Clock::now() - begin, 6s);
+    EXPECT_LT(taken.elapsed(), 6s);
     scene_.control(""); // It answers again, and is given free when the program ends.
 }
 
@@ -128,9 +127,9 @@ TEST_F(RecordingFaults, TrayThatIsOpenedAfterTheLastSectorIsTold) {
 TEST_F(RecordingFaults, DriveThatIsHeldIsBusyAtOnce) {
     scene_.control("busy\n");
     FakeContent content(TrackKind::audio, {300});
-    const auto begin = Clock::now();
+    const GivenTime taken;
     EXPECT_EQ(failureOf(content).category(), ScorchErrorCode::driveBusy);
-    EXPECT_LT(Clock::now() - begin, 1s);
+    EXPECT_LT(taken.elapsed(), 1s);
 }
 
 TEST_F(RecordingFaults, DriveThatMayNotBeOpenedIsTold) {
@@ -182,19 +181,19 @@ TEST_F(RecordingFaults, StopInTheMiddleCancelsAndTheNextDiscWorks) {
 TEST_F(RecordingFaults, StopUnblocksASourceThatWaits) {
     FakeContent content(TrackKind::audio, {300, 60'000}, "");
     const auto token = stop_.get_token();
-    Clock::time_point asked;
+    GivenTime sinceAsked;
     content.beforeRead = [&](std::int64_t sector) -> Outcome<> {
         if (sector < 40'000) { // Behind what the ring holds, so while the drive writes.
             return {};
         }
-        asked = Clock::now();
+        sinceAsked.restart();
         stop_.request_stop();
         return Interruption(Cancelled{}); // As a source does that notices it.
     };
     const auto recorded = record(content);
     ASSERT_FALSE(recorded);
     EXPECT_TRUE(isCancelled(recorded.error()));
-    EXPECT_LT(Clock::now() - asked, 5s) << "the drive is brought to rest, no more";
+    EXPECT_LT(sinceAsked.elapsed(), 5s) << "the drive is brought to rest, no more";
 }
 
 TEST_F(RecordingFaults, StopBeforeTheFirstSectorLeavesTheDiscBlank) {

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "tests/support/GivenTime.h"
 #include "tests/system/drives/DriveWindowTest.h"
 
 #include <gmock/gmock.h>
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 using namespace std::chrono_literals;
 using recorder::DiscKind;
@@ -25,12 +26,11 @@ constexpr auto cannotBurn = "This disc drive can not support burning!";
 TEST_F(DriveWindowTest, ADriveThatIsPluggedInIsListedWithinTwoSecondsAndNotChosen) {
     start();
     EXPECT_EQ(tips(), QLatin1String(noDrive));
-    QElapsedTimer timer;
-    timer.start();
+    const GivenTime taken;
     drive().describe("vendor ACME\nproduct DRW-24\n");
     drive().makeDisc(recorder::blankDisc(DiscKind::CdR));
     ASSERT_TRUE(waitUntil([this] { return driveNames() == QStringList(u"ACME DRW-24"_qs); }));
-    EXPECT_LE(timer.elapsed(), 2000);
+    EXPECT_LE(taken.elapsed(), 2s);
     EXPECT_TRUE(popup()->isVisible());
     EXPECT_EQ(tips(), QLatin1String(noDrive)) << "nobody has chosen it";
 }
@@ -116,19 +116,19 @@ TEST_F(DriveWindowTest, TheTrayOpensWhenTheUserAsks) {
 TEST_F(DriveWindowTest, ADriveThatDoesNotAnswerNeverHoldsTheWindowUp) {
     drive().control("silent 1500\n");
     drive("sr1").makeDisc(recorder::blankDisc(DiscKind::CdR));
-    QElapsedTimer sinceLast;
-    qint64 longest = 0;
+    GivenTime sinceLast;
+    std::chrono::milliseconds longest{};
     QTimer beat;
     QObject::connect(&beat, &QTimer::timeout,
                      [&] { longest = std::max(longest, sinceLast.restart()); });
     start();
     EXPECT_EQ(tips(), QLatin1String(checking));
-    sinceLast.start();
+    sinceLast.restart();
     beat.start(5ms);
     EXPECT_TRUE(waitForTips(insert));
     choose(1);
     EXPECT_TRUE(waitForNameField());
     choose(0);
     EXPECT_EQ(tips(), QLatin1String(checking));
-    EXPECT_LT(longest, 750) << "half of what one command of that drive takes";
+    EXPECT_LT(longest, 750ms) << "half of what one command of that drive takes";
 }
