@@ -5,10 +5,27 @@
 
 #include "CDBurnerPlugin/VXCDBurner.h"
 
+#include <QAbstractNativeEventFilter>
 #include <QGuiApplication>
 
 #include <cstdlib>
 #include <xcb/xcb.h>
+
+/// Counts the close requests that have come back from the X server.
+class CloseRequests final : public QAbstractNativeEventFilter {
+public:
+    CloseRequests() { qApp->installNativeEventFilter(this); }
+
+    bool nativeEventFilter(const QByteArray & /*type*/, void *message, qintptr *) override {
+        const auto *const event = static_cast<const xcb_generic_event_t *>(message);
+        count_ += (event->response_type & 0x7fU) == XCB_CLIENT_MESSAGE ? 1 : 0;
+        return false;
+    }
+    int count() const { return count_; }
+
+private:
+    int count_ = 0;
+};
 
 class X11Close : public testing::Test {
 protected:
@@ -85,7 +102,9 @@ TEST_F(X11Close, CloseBoxIsDeadBehindAnotherAlert) {
     engine.audio().delegate()->burnProgressDidError(
         ScorchError(ScorchErrorCode::writeFailed, "Broken."));
     const AlertAnswer answer([this](QMessageBox *alert) {
+        const CloseRequests arrived;
         requestClose();
+        EXPECT_TRUE(runUntil([&arrived] { return arrived.count() > 0; }));
         drainMainQueue();
         EXPECT_TRUE(tool.isStartuped());
         AlertAnswer::press(alert, QStringLiteral("OK"));
