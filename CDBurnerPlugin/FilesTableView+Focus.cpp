@@ -18,6 +18,27 @@ QModelIndex FilesTableView::moveCursor(CursorAction action, Qt::KeyboardModifier
     return QTableView::moveCursor(action, modifiers).siblingAtColumn(FilesTableModel::filename);
 }
 
+QItemSelectionModel::SelectionFlags FilesTableView::selectionCommand(const QModelIndex &index,
+                                                                     const QEvent *event) const {
+    const QItemSelectionModel::SelectionFlags command = QTableView::selectionCommand(index, event);
+    const bool isChoice = event != nullptr && (event->type() == QEvent::KeyPress ||
+                                               event->type() == QEvent::MouseButtonPress);
+    if (isChoice && !command.testFlag(QItemSelectionModel::Current)) {
+        selectionStart_ = QModelIndex(); // From here on the base class knows where it begins.
+    }
+    return command;
+}
+
+void FilesTableView::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) {
+    // The base class begins at the last row that the user chose without Shift, although another
+    // one may have been selected for them since: where rows were moved to, or after a removal.
+    const bool isExtension = command.testFlag(QItemSelectionModel::Current);
+    QTableView::setSelection(isExtension && selectionStart_.isValid()
+                                 ? QRect(visualRect(selectionStart_).center(), rect.bottomRight())
+                                 : rect,
+                             command);
+}
+
 void FilesTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
     QTableView::currentChanged(current, previous);
     // The frame goes around whole rows, the base class sees to single cells.

@@ -196,9 +196,9 @@ void FilesTableView::selectRowIndexes(const IndexSet &rows) {
                                 filesModel_->index(last, FilesTableModel::columnTotal - 1)));
     }
     if (!selection.isEmpty()) {
-        // Where the keyboard goes on from.
-        selectionModel()->setCurrentIndex(selection.first().topLeft(),
-                                          QItemSelectionModel::NoUpdate);
+        // Where the keyboard goes on from, and what Shift then selects from.
+        selectionStart_ = selection.first().topLeft();
+        selectionModel()->setCurrentIndex(selectionStart_, QItemSelectionModel::NoUpdate);
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }

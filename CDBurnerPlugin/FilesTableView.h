@@ -4,6 +4,8 @@
 #include "CDBurnerPlugin/FilesTableViewDelegate.h"
 #include "engine/BurnItem.h"
 
+#include <QItemSelectionModel>
+#include <QPersistentModelIndex>
 #include <QTableView>
 
 #include <optional>
@@ -84,6 +86,9 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void changeEvent(QEvent *event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    QItemSelectionModel::SelectionFlags
+    selectionCommand(const QModelIndex &index, const QEvent *event = nullptr) const override;
+    void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -111,6 +116,9 @@ private:
     HoverTracker *hoverTracker_ = nullptr;
     qint64 _previousRow = -1;
     Background background_ = Background::theme;
+    // Where the selection begins that was set last by selectRowIndexes, until the user begins
+    // another.
+    mutable QPersistentModelIndex selectionStart_;
     std::optional<qint64> dropRow_; // Where a line shows that dragged rows would land.
     bool isDropTarget_ = false;     // Dragged files would be taken, wherever they are dropped.
     bool isDragFromHere_ = false;
