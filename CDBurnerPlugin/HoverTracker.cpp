@@ -5,6 +5,7 @@
 #include <QCursor>
 #include <QEnterEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <utility>
 
@@ -74,6 +75,13 @@ void HoverTracker::activationChanged() {
     }
 }
 
+void HoverTracker::passOn(const QWheelEvent &wheel) {
+    QWheelEvent below(area_->mapFromGlobal(wheel.globalPosition()), wheel.globalPosition(),
+                      wheel.pixelDelta(), wheel.angleDelta(), wheel.buttons(), wheel.modifiers(),
+                      wheel.phase(), wheel.inverted());
+    QCoreApplication::sendEvent(area_, &below);
+}
+
 bool HoverTracker::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
     case QEvent::Enter:
@@ -91,6 +99,13 @@ bool HoverTracker::eventFilter(QObject *watched, QEvent *event) {
     }
     case QEvent::Leave:
         pointerLeft();
+        break;
+    case QEvent::Wheel:
+        // What floats is no descendant of the area: the wheel would turn to nobody.
+        if (watched == overlay_) {
+            passOn(*static_cast<QWheelEvent *>(event));
+            return true;
+        }
         break;
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:

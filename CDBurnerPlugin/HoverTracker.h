@@ -8,9 +8,12 @@
 
 #include <functional>
 
+class QWheelEvent;
+
 /// Follows the pointer over the area of a widget in the active window. Unlike the widget's own
 /// enter and leave events it goes by geometry: a sibling that floats above the area, such as a
-/// button shown because of the hover, does not end the hover when the pointer comes over it.
+/// button shown because of the hover, does not end the hover when the pointer comes over it, and
+/// passes the wheel on to the area.
 /// A child of the area. Main thread.
 class HoverTracker : public QObject {
     Q_OBJECT
@@ -34,6 +37,7 @@ private:
     void pointerAt(const QPoint &global);
     void pointerLeft();
     void activationChanged();
+    void passOn(const QWheelEvent &wheel);
     void end();
     void watchOverlay(QWidget *overlay);
     /// The widget of the same window that is visible at this place, if it is in the area.

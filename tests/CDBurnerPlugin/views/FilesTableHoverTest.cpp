@@ -4,11 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
@@ -106,6 +108,25 @@ TEST_F(TableHover, AButtonThatFloatsOverTheRowDoesNotEndIt) {
     QCursor::setPos(0, 0);
     QCoreApplication::processEvents();
     EXPECT_EQ(hovered_, (Rows{3, -1}));
+}
+
+TEST_F(TableHover, TheWheelOverAButtonThatFloatsScrollsTheRows) {
+    fixture_.append(200);
+    table_.reloadData();
+    ASSERT_TRUE(runUntil([this] { return table_.verticalScrollBar()->isVisible(); }));
+    pointAtRow(3);
+    QPushButton button(&window_);
+    const QRect row = table_.rectOfRow(3);
+    const QPoint corner = table_.viewport()->mapTo(&window_, row.topRight());
+    button.setGeometry(corner.x() - 22, corner.y() + 2, 22, 22);
+    button.show();
+    pointAt(row.topRight() + QPoint(-10, 12));
+    ASSERT_EQ(hovered_.back(), 3);
+    QWheelEvent wheel(QPointF(11, 11), button.mapToGlobal(QPointF(11, 11)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&button, &wheel);
+    EXPECT_GT(table_.verticalScrollBar()->value(), 0);
+    EXPECT_GT(hovered_.back(), 3);
 }
 
 TEST_F(TableHover, AScrollUnderARestingPointerReportsTheRowThatIsThereNow) {
