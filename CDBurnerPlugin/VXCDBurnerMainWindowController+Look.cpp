@@ -7,6 +7,8 @@
 #include "CDBurnerPlugin/MainWindow.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
 
+#include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
 
@@ -45,6 +47,9 @@ void VXCDBurnerMainWindowController::setUpLook() {
     _txtDragHere->setAttribute(Qt::WA_TransparentForMouseEvents);
     _txtDragHere->raise();
     _dragImageView->raise();
+    // Picture and caption are shown below the header, in the middle of what the list shows.
+    _window->findChild<QGridLayout *>(QStringLiteral("listLayout"))
+        ->setRowMinimumHeight(0, _filesTableView->horizontalHeader()->sizeHint().height());
     // The list never gets smaller than what it shows while it is empty, rows or not.
     for (QWidget *const hint :
          {static_cast<QWidget *>(_dragImageView), static_cast<QWidget *>(_txtDragHere)}) {

@@ -8,6 +8,7 @@
 #include "CDBurnerPlugin/DeleteButton.h"
 #include "CDBurnerPlugin/DropFileList.h"
 #include "CDBurnerPlugin/ErrorTipsView.h"
+#include "CDBurnerPlugin/FilesTableModel.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/MainQueue.h"
 #include "CDBurnerPlugin/MainWindow.h"
@@ -183,6 +184,11 @@ void VXCDBurnerMainWindowController::setUpTexts() {
     _btnHelp->setToolTip(localizedString("Help"));
     _btnHelp->setAccessibleName(localizedString("Help"));
     _filesTableView->setAccessibleName(localizedString("Burn list"));
+    // The list begins with songs. Its titles are there before the drives are.
+    _filesTableView->setHeaderTitle(QLatin1String(FilesTableModel::filenameColumn),
+                                    localizedString("File"));
+    _filesTableView->setHeaderTitle(QLatin1String(FilesTableModel::fileinfoColumn),
+                                    localizedString("Time"));
     _capacityView->setAccessibleName(localizedString("Used capacity"));
 }
 

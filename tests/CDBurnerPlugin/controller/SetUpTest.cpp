@@ -15,6 +15,7 @@ TEST_F(SetUp, WindowIsReadyWhileTheSearchForDrivesRuns) {
     openWhileSearching();
     EXPECT_EQ(controller->window()->windowTitle(), QStringLiteral("CD Burner"));
     EXPECT_EQ(find<QLabel>("_txtDragHere")->text(), QStringLiteral("Drag music files here"));
+    EXPECT_EQ(infoTitle(), "Time");
     EXPECT_TRUE(noneDevice()->isHidden());
     EXPECT_EQ(devicePopup()->count(), 0);
     EXPECT_FALSE(burnButton()->isEnabled());
