@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTextDocumentFragment>
 #include <QTimer>
@@ -20,6 +21,7 @@ namespace {
 constexpr int bubbleWidth = 300;
 constexpr int margin = 18;
 const QColor textColor(0x1e, 0x24, 0x2c); // The bubble is white in every theme.
+const QColor edgeColor(0x9a, 0xa3, 0xae); // Of the line around it, as in its pictures.
 
 bool isModifier(int key) {
     switch (key) {
@@ -129,6 +131,13 @@ void VXHelpWindow::stopMonitoring() {
         isMonitoring_ = false;
         qApp->removeEventFilter(this);
         disconnect(activeWindowConnection_);
+    }
+}
+
+void VXHelpWindow::paintEvent(QPaintEvent * /*event*/) {
+    if (!mask().isEmpty()) {
+        // What of the line is half covered would be half black.
+        QPainter(this).fillRect(rect(), edgeColor);
     }
 }
 

@@ -45,6 +45,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/VXHelpWindow.h"
+#include "CDBurnerPlugin/VXHelpView.h"
 
 #include "tests/CDBurnerPlugin/EventLoop.h"
 
@@ -145,6 +146,15 @@ TEST_F(HelpWindow, StaysOnTheScreen) {
     const QRect screen = bubble_.screen()->availableGeometry();
     bubble_.setFrameTopLeftPoint(screen.bottomRight());
     EXPECT_TRUE(screen.contains(bubble_.geometry()));
+}
+
+TEST_F(HelpWindow, CutOutItHasNoBlackBehindItsEdge) {
+    const QPoint corner(0, VXHelpView::pointerHeight); // Outside the round corner.
+    EXPECT_EQ(bubble_.grab().toImage().pixelColor(corner).alpha(), 0);
+    bubble_.setMask(bubble_.rect());
+    const QColor behind = bubble_.grab().toImage().pixelColor(corner);
+    EXPECT_EQ(behind.alpha(), 255);
+    EXPECT_GT(behind.lightness(), 128);
 }
 
 TEST_F(HelpWindow, ItsTextFitsAndTellsOfBothTypes) {
