@@ -610,7 +610,7 @@
     </message>
     <message>
         <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
-        <translation>المساحة على القرص الموجود في المحرك «&#x2068;%@&#x2069;» أقل مما ذكر. انسخ على قرص من علامة أخرى.</translation>
+        <translation>المساحة على القرص الموجود في المحرك «&#x2068;%@&#x2069;» أقل مما ذكر. احرق على قرص من علامة أخرى.</translation>
     </message>
     <message>
         <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>

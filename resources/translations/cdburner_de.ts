@@ -586,7 +586,7 @@
     </message>
     <message>
         <source>The disc in the drive “%@” could not be written. It cannot be used any more: try again with a new one, best of another make.</source>
-        <translation>Die Disc im Laufwerk „%@“ konnte nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
+        <translation>Die CD im Laufwerk „%@“ konnte nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
     </message>
     <message>
         <source>The tray of the drive “%@” is open. Put a blank CD in, close it, and try again.</source>
@@ -594,43 +594,43 @@
     </message>
     <message>
         <source>The disc was taken out of the drive “%@”, or another one was put in. Insert a blank CD, and try again.</source>
-        <translation>Die Disc wurde aus dem Laufwerk „%@“ genommen, oder eine andere wurde eingelegt. Legen Sie eine leere CD ein und versuchen Sie es erneut.</translation>
+        <translation>Die CD wurde aus dem Laufwerk „%@“ genommen, oder eine andere wurde eingelegt. Legen Sie eine leere CD ein und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The drive “%@” does not become ready. Take the disc out, clean it or take another one, and try again.</source>
-        <translation>Das Laufwerk „%@“ wird nicht bereit. Nehmen Sie die Disc heraus, reinigen Sie sie oder nehmen Sie eine andere, und versuchen Sie es erneut.</translation>
+        <translation>Das Laufwerk „%@“ wird nicht bereit. Nehmen Sie die CD heraus, reinigen Sie sie oder nehmen Sie eine andere, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The disc in the drive “%@” cannot be recorded. Insert a blank CD-R or CD-RW.</source>
-        <translation>Die Disc im Laufwerk „%@“ ist nicht beschreibbar. Legen Sie eine leere CD-R oder CD-RW ein.</translation>
+        <translation>Die CD im Laufwerk „%@“ ist nicht beschreibbar. Legen Sie eine leere CD-R oder CD-RW ein.</translation>
     </message>
     <message>
         <source>The disc in the drive “%@” is protected against writing. Insert another one.</source>
-        <translation>Die Disc im Laufwerk „%@“ ist schreibgeschützt. Legen Sie eine andere ein.</translation>
+        <translation>Die CD im Laufwerk „%@“ ist schreibgeschützt. Legen Sie eine andere ein.</translation>
     </message>
     <message>
         <source>The disc in the drive “%@” has less room than it said. Burn on a disc of another make.</source>
-        <translation>Auf der Disc im Laufwerk „%@“ ist weniger Platz, als sie angab. Brennen Sie auf eine Disc einer anderen Marke.</translation>
+        <translation>Auf der CD im Laufwerk „%@“ ist weniger Platz, als sie angab. Brennen Sie auf eine CD einer anderen Marke.</translation>
     </message>
     <message>
         <source>The drive “%@” could not adjust its laser to the disc. Try a disc of another make. If this happens with every disc, the lens may be dirty.</source>
-        <translation>Das Laufwerk „%@“ konnte seinen Laser nicht auf die Disc einstellen. Versuchen Sie es mit einer Disc einer anderen Marke. Geschieht das bei jeder Disc, ist vielleicht die Linse verschmutzt.</translation>
+        <translation>Das Laufwerk „%@“ konnte seinen Laser nicht auf die CD einstellen. Versuchen Sie es mit einer CD einer anderen Marke. Geschieht das bei jeder CD, ist vielleicht die Linse verschmutzt.</translation>
     </message>
     <message>
         <source>The drive “%@” had to wait for data, and the disc is spoilt. Close other programs, and try again with a new disc.</source>
-        <translation>Das Laufwerk „%@“ musste auf Daten warten, und die Disc ist verdorben. Schließen Sie andere Programme und versuchen Sie es mit einer neuen Disc.</translation>
+        <translation>Das Laufwerk „%@“ musste auf Daten warten, und die CD ist unbrauchbar geworden. Schließen Sie andere Programme und versuchen Sie es mit einer neuen CD.</translation>
     </message>
     <message>
         <source>The disc in the drive “%@” could not be written at sector %@. It cannot be used any more: try again with a new one, best of another make.</source>
-        <translation>Die Disc im Laufwerk „%@“ konnte bei Sektor %@ nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
+        <translation>Die CD im Laufwerk „%@“ konnte bei Sektor %@ nicht beschrieben werden. Sie ist nicht mehr brauchbar: Versuchen Sie es mit einer neuen, am besten einer anderen Marke.</translation>
     </message>
     <message>
         <source>The drive “%@” could not close the disc. Other drives may not be able to read it: try again with a new one.</source>
-        <translation>Das Laufwerk „%@“ konnte die Disc nicht abschließen. Andere Laufwerke können sie vielleicht nicht lesen: Versuchen Sie es mit einer neuen.</translation>
+        <translation>Das Laufwerk „%@“ konnte die CD nicht abschließen. Andere Laufwerke können sie vielleicht nicht lesen: Versuchen Sie es mit einer neuen.</translation>
     </message>
     <message>
         <source>The disc in the drive “%@” could not be read. Clean it, or take another one.</source>
-        <translation>Die Disc im Laufwerk „%@“ konnte nicht gelesen werden. Reinigen Sie sie, oder nehmen Sie eine andere.</translation>
+        <translation>Die CD im Laufwerk „%@“ konnte nicht gelesen werden. Reinigen Sie sie, oder nehmen Sie eine andere.</translation>
     </message>
     <message>
         <source>The drive “%@” reports a fault of its own. Switch it off and on again. If that does not help, use another drive.</source>
@@ -646,7 +646,7 @@
     </message>
     <message>
         <source>The disc cannot be taken out of the drive “%@”: another program has locked it in.</source>
-        <translation>Die Disc lässt sich nicht aus dem Laufwerk „%@“ nehmen: Ein anderes Programm hat es verriegelt.</translation>
+        <translation>Die CD lässt sich nicht aus dem Laufwerk „%@“ nehmen: Ein anderes Programm hat es verriegelt.</translation>
     </message>
     <message>
         <source>You are not allowed to use the drive “%@”. Ask an administrator for access to it.</source>
@@ -666,7 +666,7 @@
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>
-        <translation>Das Laufwerk „%@“ meldet einen Fehler (%@). Versuchen Sie es erneut; hilft das nicht, verwenden Sie eine andere Disc oder ein anderes Laufwerk.</translation>
+        <translation>Das Laufwerk „%@“ meldet einen Fehler (%@). Versuchen Sie es erneut; hilft das nicht, verwenden Sie eine andere CD oder ein anderes Laufwerk.</translation>
     </message>
     <message>
         <source>The drive “%@” has been disconnected. Connect it again, and start anew with a blank CD.</source>

@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
-        <translation>L’unità «%@» non è riuscita ad aprire il cassetto. Verifica che nulla lo ostacoli e riprova.</translation>
+        <translation>L’unità «%@» non è riuscita ad aprire il cassetto. Verificare che nulla lo ostacoli e riprovare.</translation>
     </message>
 </context>
 </TS>

@@ -698,7 +698,7 @@
     </message>
     <message>
         <source>The disc in the drive “%@” was written, but it is not as it should be. Do not rely on this disc: burn the list again on another one.</source>
-        <translation>驱动器“%@”中的光盘已写入，但结果不正确。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
+        <translation>光驱“%@”中的光盘已写入，但结果不正确。请不要依赖这张光盘：将列表重新刻录到另一张光盘。</translation>
     </message>
     <message>
         <source>The drive “%@” could not open its tray. Make sure that nothing is in its way, and try again.</source>
