@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <string_view>
 #include <system_error>
 
@@ -167,6 +168,13 @@ ScorchError senseError(const Sense &sense, const DriveErrorContext &context,
     }
     return {found->category, localized(found->text, {context.driveName}),
             senseDetail(sense, detail)};
+}
+
+ScorchError ejectError(const MmcError &error, const DriveErrorContext &context) {
+    if (error.kind == MmcError::Kind::other && error.systemError == EIO) {
+        return {Code::driveFailed, localized(jammed, {context.driveName}), error.detail()};
+    }
+    return driveError(error, context);
 }
 
 ScorchError driveError(const MmcError &error, const DriveErrorContext &context) {

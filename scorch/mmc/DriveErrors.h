@@ -27,6 +27,9 @@ struct DriveErrorContext {
 /// Blocks for as long as that takes.
 ScorchError driveError(const MmcError &error, const DriveErrorContext &context);
 
+/// The same for an ejection: the kernel keeps the drive's sense data to itself then, and says EIO.
+ScorchError ejectError(const MmcError &error, const DriveErrorContext &context);
+
 /// From what a drive said about a command that was sent by somebody else; `detail` is their
 /// message, and may be empty. The sense triple is put in front of it.
 ScorchError senseError(const Sense &sense, const DriveErrorContext &context,

@@ -170,7 +170,7 @@ void OpticalDrive::ejectDisc() {
     if (!device) {
         failure = driveError(device.error(), context);
     } else if (const Result<void, MmcError> ejected = device->eject(); !ejected) {
-        failure = driveError(ejected.error(), context);
+        failure = ejectError(ejected.error(), context);
     }
     const auto &log = ScorchHooks::shared().log;
     if (failure && log) { // Nobody waits for an answer.

@@ -87,6 +87,17 @@ TEST(DriveErrors, WhatTheSystemSaysHasItsWordsToo) {
     EXPECT_THAT(error(MmcError::Kind::gone, ENODEV).detail(), StartsWith("open: "));
 }
 
+TEST(DriveErrors, AnEjectionThatFailsIsTheTraysUnlessMoreIsKnown) {
+    const DriveErrorContext context{.driveName = "ACME", .node = "/no/such/node", .sector = {}};
+    EXPECT_THAT(ejectError(systemError(MmcError::Kind::other, EIO), context).localizedDescription(),
+                HasSubstr("“ACME” could not open its tray"));
+    EXPECT_EQ(ejectError(systemError(MmcError::Kind::busy, EBUSY), context).category(),
+              Code::driveBusy);
+    EXPECT_THAT(
+        ejectError(systemError(MmcError::Kind::other, ENOSYS), context).localizedDescription(),
+        HasSubstr("not implemented"));
+}
+
 TEST(DriveErrors, WhoMayNotUseADriveReadsItsGroup) {
     const TemporaryFolder folder;
     const auto node = folder.path() / "sr0";

@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 #include <chrono>
@@ -111,6 +112,18 @@ TEST_F(DriveWindowTest, TheTrayOpensWhenTheUserAsks) {
     ASSERT_TRUE(waitForNameField());
     host_.part<QPushButton>("_btnEject")->click();
     EXPECT_TRUE(waitForTips(insert));
+}
+
+TEST_F(DriveWindowTest, ATrayThatDoesNotOpenIsExplainedAtTheButton) {
+    drive().makeDisc(recorder::blankDisc(DiscKind::CdR));
+    start();
+    ASSERT_TRUE(waitForNameField());
+    drive().control("jammed\n");
+    host_.part<QPushButton>("_btnEject")->click();
+    EXPECT_TRUE(waitUntil(
+        [] { return QToolTip::text().contains(QLatin1String("could not open its tray")); }));
+    EXPECT_TRUE(waitForNameField());
+    QToolTip::hideText();
 }
 
 TEST_F(DriveWindowTest, ADriveThatDoesNotAnswerNeverHoldsTheWindowUp) {
