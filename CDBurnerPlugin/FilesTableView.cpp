@@ -122,6 +122,9 @@ void FilesTableView::awakeFromNib() {
 void FilesTableView::reloadData() {
     filesModel_->reloadData();
     const bool hasRows = filesModel_->rowCount() >= 1;
+    if (!hasRows && _previousRow >= 0) {
+        hoverAgain(); // The pointer rests, and there is no row under it any more.
+    }
     if (hasRows == usesAlternatingRowBackgroundColors() || (!hasRows && bgImage().isNull())) {
         return;
     }

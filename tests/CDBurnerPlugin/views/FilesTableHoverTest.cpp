@@ -159,6 +159,13 @@ TEST_F(TableHover, AScrollWithThePointerElsewhereReportsNoRow) {
     EXPECT_EQ(hovered_, Rows{-1});
 }
 
+TEST_F(TableHover, EndsWithTheLastRow) {
+    pointAtRow(3);
+    fixture_.keep(0);
+    table_.reloadData();
+    EXPECT_EQ(hovered_, (Rows{3, -1}));
+}
+
 TEST_F(TableHover, EndsWithTheActivityOfTheWindow) {
     pointAtRow(3);
     QWidget other;
