@@ -70,8 +70,8 @@ void FilesTableModel::rowDidLeave(qint64 row) {
 }
 
 QVariant FilesTableModel::objectValue(const QString &columnIdentifier, qint64 row) const {
-    if (scorcher_ == nullptr) {
-        return {};
+    if (row < 0 || row >= numberOfItems()) {
+        return {}; // The view hears of rows that have gone a moment after the burner.
     }
     const ItemProperties properties =
         scorcher_->propertyOfBurnItem(scorcher_->childOfBurnItem(row, nullptr));

@@ -67,6 +67,7 @@ TEST_F(FilesTableModelTest, ARowThatIsGoneIsNotShownBeforeTheReload) {
     EXPECT_EQ(model_.rowCount(), 1);
     EXPECT_EQ(textAt(0, 0), QString());
     EXPECT_EQ(textAt(0, 1), QString());
+    EXPECT_EQ(burner_->childOutsideCount, 0); // Nor asked for.
     model_.reloadData();
     EXPECT_EQ(model_.rowCount(), 0);
 }
