@@ -149,10 +149,15 @@ void OpticalDrive::glance(const std::stop_token &stop) {
 }
 
 /// A drive that fell silent in a recording was given free, but could not be told to open its door:
-/// it is tried until it answers.
+/// it is tried until it answers. Where another program has the drive open by now the lock is not
+/// ours any more: the kernel lifts it when nobody has the drive open.
 void OpticalDrive::unlockDoor() {
     Result<MmcDevice, MmcError> device = services_.open(examined_.node);
-    const bool isDone = device && (device->unlock() || device->unlock());
+    const auto isUnlocked = [&device] {
+        const Result<void, MmcError> unlocked = device->unlock();
+        return unlocked || unlocked.error().kind == MmcError::Kind::busy;
+    };
+    const bool isDone = device && (isUnlocked() || isUnlocked());
     const std::lock_guard lock(mutex_);
     unlockWanted_ = !isDone;
     nextUnlock_ = std::chrono::steady_clock::now() + services_.glanceInterval;

@@ -10,8 +10,18 @@
 #include <algorithm>
 #include <system_error>
 #include <utility>
+#include <variant>
 
 namespace scorch {
+namespace {
+
+/// It was somebody else who locked the door, then, and who needs it locked.
+bool isHeldByOthers(const Interruption &failure) {
+    const auto *const error = std::get_if<ScorchError>(&failure);
+    return error != nullptr && error->category() == ScorchErrorCode::driveBusy;
+}
+
+} // namespace
 
 std::shared_ptr<OpticalDrive> OpticalDrive::create(const FoundDevice &device, std::string name,
                                                    bool isToldOfMedia,
@@ -212,29 +222,31 @@ Outcome<std::unique_ptr<DiscRecording>> OpticalDrive::beginRecording(const DiscC
         work_.request_stop();
     }
     if (auto prepared = prepareRecording(stop); !prepared) {
-        recordingEnded();
+        recordingEnded(Door::untouched);
         return prepared.error();
     }
-    const RecordingTarget target{.driveName = examined_.name,
-                                 .node = examined_.node,
-                                 .freeSectors = state().disc.freeSectors};
+    const RecordingTarget target{.driveName = examined_.name, .node = examined_.node};
     auto recording = services_.record(target, content, stop);
     if (!recording) {
-        recordingEnded();
+        recordingEnded(isHeldByOthers(recording.error()) ? Door::untouched : Door::perhapsLocked);
         return recording.error();
     }
-    return std::unique_ptr<DiscRecording>(std::make_unique<HeldRecording>(
-        std::move(*recording), [drive = shared_from_this()] { drive->recordingEnded(); }));
+    return std::unique_ptr<DiscRecording>(
+        std::make_unique<HeldRecording>(std::move(*recording), [drive = shared_from_this()] {
+            drive->recordingEnded(Door::perhapsLocked);
+        }));
 }
 
-void OpticalDrive::recordingEnded() {
+void OpticalDrive::recordingEnded(Door door) {
     DriveState before;
     {
         const std::lock_guard lock(mutex_);
         before = state_;
         recording_ = false;
-        unlockWanted_ = true;
-        nextUnlock_ = {};
+        if (door == Door::perhapsLocked) {
+            unlockWanted_ = true;
+            nextUnlock_ = {};
+        }
         if (!ended_) {
             if (watched_) {
                 wantOpenly();

@@ -74,6 +74,8 @@ private:
     /// What the thread is to do next, and how openly a disc is to be examined.
     enum class Order { none, end, unlock, eject, examine, glance };
     enum class Wanted { nothing, quietly, openly };
+    /// What a recording, or an attempt at one, leaves behind.
+    enum class Door { untouched, perhapsLocked };
 
     OpticalDrive(const FoundDevice &device, std::string name, bool isToldOfMedia,
                  OpticalDriveServices services);
@@ -89,7 +91,7 @@ private:
     void ensureThread();
 
     void take(const DriveFindings &findings);
-    void recordingEnded();
+    void recordingEnded(Door door);
     /// With the mutex held: from now on the drive says that it is checking.
     void wantOpenly();
     /// Calls the observer if the state is another than `before`. Without the mutex.

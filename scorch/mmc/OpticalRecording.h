@@ -11,11 +11,10 @@
 
 namespace scorch {
 
-/// The drive and the blank disc for one recording, as last examined.
+/// The drive for one recording.
 struct RecordingTarget {
     std::string driveName; ///< As the user sees it.
     std::filesystem::path node;
-    std::int64_t freeSectors = 0;
 };
 
 /// Takes the drive exclusively and prepares one recording. Blocks. See Drive::beginRecording for

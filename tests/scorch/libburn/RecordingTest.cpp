@@ -74,7 +74,7 @@ RecordingTest::~RecordingTest() {
 }
 
 Outcome<std::unique_ptr<DiscRecording>> RecordingTest::begin(DiscContent &content) {
-    const RecordingTarget target{.driveName = "Drive", .node = "/dev/" + name_, .freeSectors = 0};
+    const RecordingTarget target{.driveName = "Drive", .node = "/dev/" + name_};
     return OpticalDiscRecording::create(thread_, target, content, stop_.get_token(), patience_);
 }
 

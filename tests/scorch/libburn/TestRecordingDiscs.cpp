@@ -187,7 +187,7 @@ TEST_F(RecordingDiscs, TwoDrivesRecordAtOnce) {
     FakeContent failing(TrackKind::audio, {600}, "");
     std::optional<ScorchErrorCode> failure;
     std::thread other([&] {
-        const RecordingTarget target{.driveName = "Other", .node = "/dev/sr31", .freeSectors = 0};
+        const RecordingTarget target{.driveName = "Other", .node = "/dev/sr31"};
         auto begun = OpticalDiscRecording::create(thread_, target, failing, {}, {});
         SilentObserver nobody;
         const auto recorded = (*begun)->record(failing, nobody, {});

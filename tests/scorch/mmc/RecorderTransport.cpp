@@ -57,6 +57,11 @@ public:
     }
 
     Result<void, MmcError> unlock() override {
+        if (drive_.recorder_.faults().busy) { // The kernel refuses where others have it open, too.
+            const std::lock_guard lock(drive_.mutex_);
+            ++drive_.refusedUnlocks_;
+            return systemError(MmcError::Kind::busy, EBUSY, "CDROM_LOCKDOOR");
+        }
         return send("CDROM_LOCKDOOR", {0x1E, 0, 0, 0, 0, 0});
     }
 
@@ -93,6 +98,11 @@ std::vector<int> RecorderDrive::commands() const {
 int RecorderDrive::openings() const {
     const std::lock_guard lock(mutex_);
     return openings_;
+}
+
+int RecorderDrive::refusedUnlocks() const {
+    const std::lock_guard lock(mutex_);
+    return refusedUnlocks_;
 }
 
 recorder::Disc blankCd(recorder::DiscKind kind) {

@@ -24,6 +24,8 @@ public:
     /// Operation codes, in order.
     std::vector<int> commands() const;
     int openings() const;
+    /// How often the door was not unlocked since another program has the drive.
+    int refusedUnlocks() const;
 
 private:
     friend class RecorderTransport;
@@ -38,6 +40,7 @@ private:
     mutable std::mutex mutex_; ///< Guards all below.
     std::vector<int> commands_;
     int openings_ = 0;
+    int refusedUnlocks_ = 0;
 };
 
 /// Discs of all kinds.

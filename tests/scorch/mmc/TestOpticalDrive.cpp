@@ -238,7 +238,7 @@ TEST_F(OpticalDriveTest, ARecordingBeginsWithTheDiscAsItIsThen) {
     scene().control("disc shorter #1\n");
     const auto recording = drive->beginRecording(content_, {});
     ASSERT_TRUE(recording.ok());
-    EXPECT_EQ(target()->freeSectors, 333'000);
+    EXPECT_EQ(drive->state().disc.freeSectors, 333'000);
     EXPECT_EQ(target()->driveName, "ACME DRW-24");
     EXPECT_EQ(target()->node, "/dev/sr0");
 }
@@ -290,6 +290,30 @@ TEST_F(OpticalDriveTest, ADoorThatARecordingLeftLockedIsUnlockedAsSoonAsTheDrive
         return page.data.size() > 14 && (page.data[8 + 6] & 2U) == 0;
     };
     EXPECT_TRUE(waitFor(canBeOpened));
+}
+
+TEST_F(OpticalDriveTest, ADoorIsLeftToTheProgramThatHasTheDriveOpenByNow) {
+    scene().makeDisc(blankCd());
+    const auto drive = makeDrive();
+    auto recording = drive->beginRecording(content_, {});
+    ASSERT_TRUE(recording.ok());
+    scene().control("busy\n");
+    recording->reset();
+    EXPECT_TRUE(waitFor([this] { return recorder().refusedUnlocks() > 0; }));
+    scene().control("");
+    drive->setWatched(true);
+    EXPECT_TRUE(waitUntilChecked(*drive)); // By the thread that would try again.
+    EXPECT_EQ(recorder().refusedUnlocks(), 1);
+    EXPECT_THAT(recorder().commands(), testing::Not(testing::Contains(0x1E)));
+}
+
+TEST_F(OpticalDriveTest, ADriveThatWasNotTakenIsNotUnlocked) {
+    scene().makeDisc(usedCd(DiscKind::CdR, true));
+    const auto drive = makeDrive();
+    EXPECT_FALSE(drive->beginRecording(content_, {}).ok());
+    drive->setWatched(true);
+    EXPECT_TRUE(waitUntilChecked(*drive));
+    EXPECT_THAT(recorder().commands(), testing::Not(testing::Contains(0x1E)));
 }
 
 TEST_F(OpticalDriveTest, ASecondRecordingIsRefused) {

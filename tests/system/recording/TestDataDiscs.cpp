@@ -9,7 +9,9 @@
 
 using namespace recorder;
 using testing::AllOf;
+using testing::ContainsRegex;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -99,8 +101,10 @@ TEST_F(DataDiscs, DriveThatVanishesInTheMiddleIsTold) {
     expectNextDiscToWork();
 }
 
-TEST_F(DataDiscs, HeldDriveIsTold) {
+TEST_F(DataDiscs, HeldDriveIsToldAndLeftLocked) {
     scene.control("busy\n");
+    scene.startLog();
     EXPECT_EQ(burn(burning("data", "Files", {file("one.txt", "one")})), 1);
     EXPECT_THAT(errors, HasSubstr("uses the drive"));
+    EXPECT_THAT(scene.log(), Not(ContainsRegex("(^|\n)[0-9]+ 1e "))); // Its lock is another's.
 }
