@@ -43,6 +43,7 @@ void ErrorTipsView::setErrorTips(const QString &tips) {
     }
     if (tips != _errorTips) {
         _errorTips = tips;
+        updateGeometry();
         setAccessibleName(tips);
         announce(this);
     }
@@ -62,7 +63,8 @@ QSize ErrorTipsView::sizeHint() const {
 }
 
 QSize ErrorTipsView::minimumSizeHint() const {
-    return QSizeF(iconSize + gap + iconSize, textHeight).toSize();
+    // The whole text: the smallest window shows why nothing can be burned.
+    return {sizeHint().width(), static_cast<int>(textHeight)};
 }
 
 void ErrorTipsView::drawRect(QPainter &painter, double scale) const {
