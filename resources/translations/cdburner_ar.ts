@@ -657,12 +657,12 @@
         <translation>غير مسموح لك باستخدام المحرك «&#x2068;%@&#x2069;»: فهو يتبع المجموعة «&#x2068;%@&#x2069;». اطلب من المسؤول إضافتك إلى هذه المجموعة، ثم سجل الدخول من جديد.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>يستخدم برنامج آخر المحرك «&#x2068;%@&#x2069;». أغلق ذلك البرنامج وحاول مرة أخرى.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>يستخدم برنامج آخر المحرك «&#x2068;%@&#x2069;». انتظر حتى ينتهي أو أغلقه، ثم حاول مرة أخرى.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>يستخدم البرنامج &#x2068;%@&#x2069; المحرك «&#x2068;%@&#x2069;». أغلق ذلك البرنامج وحاول مرة أخرى.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>يستخدم البرنامج &#x2068;%@&#x2069; المحرك «&#x2068;%@&#x2069;». انتظر حتى ينتهي أو أغلقه، ثم حاول مرة أخرى.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>Sie dürfen das Laufwerk „%@“ nicht benutzen: Es gehört der Gruppe „%@“. Bitten Sie einen Administrator, Sie in diese Gruppe aufzunehmen, und melden Sie sich dann neu an.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Ein anderes Programm benutzt das Laufwerk „%@“. Schließen Sie dieses Programm und versuchen Sie es erneut.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Ein anderes Programm benutzt das Laufwerk „%@“. Warten Sie, bis es fertig ist, oder schließen Sie es, und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Das Programm %@ benutzt das Laufwerk „%@“. Schließen Sie dieses Programm und versuchen Sie es erneut.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Das Programm %@ benutzt das Laufwerk „%@“. Warten Sie, bis es fertig ist, oder schließen Sie es, und versuchen Sie es dann erneut.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

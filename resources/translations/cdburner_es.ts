@@ -657,12 +657,12 @@
         <translation>No tiene permiso para usar la unidad «%@»: pertenece al grupo «%@». Pida a un administrador que le añada a ese grupo y vuelva a iniciar sesión.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Otro programa está usando la unidad «%@». Ciérrelo e inténtelo de nuevo.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Otro programa está usando la unidad «%@». Espere a que termine o ciérrelo, e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>El programa %@ está usando la unidad «%@». Ciérrelo e inténtelo de nuevo.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>El programa %@ está usando la unidad «%@». Espere a que termine o ciérrelo, e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>Vous n’êtes pas autorisé à utiliser le lecteur «&#xa0;%@&#xa0;»&#xa0;: il appartient au groupe «&#xa0;%@&#xa0;». Demandez à un administrateur de vous ajouter à ce groupe, puis reconnectez-vous.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Un autre programme utilise le lecteur «&#xa0;%@&#xa0;». Fermez ce programme et réessayez.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Un autre programme utilise le lecteur «&#xa0;%@&#xa0;». Attendez qu’il ait terminé ou fermez-le, puis réessayez.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Le programme %@ utilise le lecteur «&#xa0;%@&#xa0;». Fermez ce programme et réessayez.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Le programme %@ utilise le lecteur «&#xa0;%@&#xa0;». Attendez qu’il ait terminé ou fermez-le, puis réessayez.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

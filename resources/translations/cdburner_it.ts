@@ -657,12 +657,12 @@
         <translation>Non si è autorizzati a usare l’unità «%@»: appartiene al gruppo «%@». Chiedere a un amministratore di essere aggiunti a questo gruppo, poi accedere di nuovo.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Un altro programma sta usando l’unità «%@». Chiuderlo e riprovare.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Un altro programma sta usando l’unità «%@». Attendere che abbia terminato o chiuderlo, poi riprovare.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Il programma %@ sta usando l’unità «%@». Chiuderlo e riprovare.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Il programma %@ sta usando l’unità «%@». Attendere che abbia terminato o chiuderlo, poi riprovare.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>ドライブ「%@」を使う権限がありません。このドライブはグループ「%@」に属しています。管理者にこのグループへの追加を依頼し、ログインし直してください。</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>ドライブ「%@」は別のプログラムが使用しています。そのプログラムを閉じて、やり直してください。</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>ドライブ「%@」は別のプログラムが使用しています。終わるまで待つか、そのプログラムを閉じてから、やり直してください。</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>プログラム %@ がドライブ「%@」を使用しています。そのプログラムを閉じて、やり直してください。</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>プログラム %@ がドライブ「%@」を使用しています。終わるまで待つか、そのプログラムを閉じてから、やり直してください。</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>Você não tem permissão para usar a unidade “%@”: ela pertence ao grupo “%@”. Peça a um administrador que o adicione a esse grupo e entre de novo na sessão.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Outro programa está usando a unidade “%@”. Feche esse programa e tente de novo.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Outro programa está usando a unidade “%@”. Aguarde até que ele termine ou feche-o e tente de novo.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>O programa %@ está usando a unidade “%@”. Feche esse programa e tente de novo.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>O programa %@ está usando a unidade “%@”. Aguarde até que ele termine ou feche-o e tente de novo.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>У вас нет прав на использование привода «%@»: он принадлежит группе «%@». Попросите администратора добавить вас в эту группу, затем войдите в систему заново.</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Привод «%@» используется другой программой. Закройте её и повторите попытку.</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Привод «%@» используется другой программой. Дождитесь, пока она закончит работу, или закройте её и повторите попытку.</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>Программа %@ использует привод «%@». Закройте её и повторите попытку.</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>Программа %@ использует привод «%@». Дождитесь, пока она закончит работу, или закройте её и повторите попытку.</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

@@ -657,12 +657,12 @@
         <translation>您无权使用光驱“%@”：它属于用户组“%@”。请管理员将您加入该组，然后重新登录。</translation>
     </message>
     <message>
-        <source>Another program uses the drive “%@”. Close that program, and try again.</source>
-        <translation>另一个程序正在使用光驱“%@”。请关闭该程序后重试。</translation>
+        <source>Another program uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>另一个程序正在使用光驱“%@”。请等待其完成，或关闭该程序，然后重试。</translation>
     </message>
     <message>
-        <source>The program %@ uses the drive “%@”. Close that program, and try again.</source>
-        <translation>程序 %@ 正在使用光驱“%@”。请关闭该程序后重试。</translation>
+        <source>The program %@ uses the drive “%@”. Wait until it has finished, or close it, then try again.</source>
+        <translation>程序 %@ 正在使用光驱“%@”。请等待其完成，或关闭该程序，然后重试。</translation>
     </message>
     <message>
         <source>The drive “%@” reports an error (%@). Try again; if that does not help, use another disc or another drive.</source>

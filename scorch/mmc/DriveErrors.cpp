@@ -132,12 +132,14 @@ ScorchError heldError(const DriveErrorContext &context, const std::string &detai
     const std::string holder = holderOf(context.node);
     if (holder.empty()) {
         return {Code::driveBusy,
-                localized("Another program uses the drive “%@”. Close that program, and try again.",
+                localized("Another program uses the drive “%@”. Wait until it has finished, or "
+                          "close it, then try again.",
                           {context.driveName}),
                 detail};
     }
     return {Code::driveBusy,
-            localized("The program %@ uses the drive “%@”. Close that program, and try again.",
+            localized("The program %@ uses the drive “%@”. Wait until it has finished, or close "
+                      "it, then try again.",
                       {holder, context.driveName}),
             detail};
 }

@@ -148,7 +148,8 @@ TEST(DriveErrors, WhoHoldsADriveIsNamed) {
     EXPECT_THAT(driveError(systemError(MmcError::Kind::busy, EBUSY),
                            {.driveName = "ACME", .node = node, .sector = {}})
                     .localizedDescription(),
-                HasSubstr("The program " + holder + " uses the drive “ACME”"));
+                HasSubstr("The program " + holder +
+                          " uses the drive “ACME”. Wait until it has finished, or close it"));
     for (const int descriptor : {own, ready[0], ready[1], done[0], done[1]}) {
         ::close(descriptor);
     }
