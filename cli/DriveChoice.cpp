@@ -111,6 +111,10 @@ std::optional<std::string> discProblem(const ScorcherDevice &device) {
     if (word == "other") {
         return "The disc in " + drive + " is not a CD. Insert a blank CD and try again.";
     }
+    if (word == "written" && device.description().medium == "CD-RW") {
+        return "The CD-RW in " + drive +
+               " is not blank. Erase it, or insert a blank CD, and try again.";
+    }
     if (word == "written") {
         return "The disc in " + drive + " is not blank. Insert a blank CD and try again.";
     }

@@ -127,6 +127,16 @@ TEST_F(ScorchDrives, LookingAtADriveLeavesItUnlockedAndFree) {
     }
 }
 
+TEST_F(ScorchDrives, AUsedDiscThatCanBeErasedIsToldFromOneThatCannot) {
+    drive().makeDisc(discWith(DiscKind::CdRw, true));
+    EXPECT_EQ(burn({}), 1);
+    EXPECT_THAT(errors_,
+                HasSubstr("The CD-RW in \"EXAMPLE CD-RW RECORDER\" is not blank. Erase it"));
+    drive("sr1").makeDisc(discWith(DiscKind::CdR, true));
+    EXPECT_EQ(burn({"--drive", "/dev/sr1"}), 1);
+    EXPECT_THAT(errors_, HasSubstr("(sr1)\" is not blank. Insert a blank CD"));
+}
+
 TEST_F(ScorchDrives, ADriveOnWhichAnotherProgramBurnsIsNotAskedAboutItsDisc) {
     drive().makeDisc(recorder::blankDisc(DiscKind::CdR));
     lines(); // Makes the file that stands for the device.
