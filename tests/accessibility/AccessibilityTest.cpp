@@ -19,6 +19,11 @@ AccessibilityTest::~AccessibilityTest() {
         for (const Accessible &program : Accessible::desktop().children()) {
             GTEST_LOG_(INFO) << program.tree();
         }
+        GTEST_LOG_(INFO) << "the keyboard is with "
+                         << runCommand({"xdotool", "getwindowfocus", "getwindowname"}).output
+                         << "the active window is "
+                         << runCommand({"xdotool", "getactivewindow", "getwindowname"}).output
+                         << runCommand({"xwininfo", "-root", "-tree"}).output;
         GTEST_LOG_(INFO) << readFile(folder_ / "crate.log");
     }
 }
@@ -33,7 +38,9 @@ void AccessibilityTest::start(const std::vector<std::filesystem::path> &files, i
 }
 
 void AccessibilityTest::startHost(const std::vector<std::string> &arguments) {
-    std::vector<std::string> words = {CRATE_PROGRAM, "--music", musicFolder_};
+    std::vector<std::string> words = {"env"};
+    words.insert(words.end(), environment_.begin(), environment_.end());
+    words.insert(words.end(), {CRATE_PROGRAM, "--music", musicFolder_});
     words.insert(words.end(), arguments.begin(), arguments.end());
     program_ = std::make_unique<ChildProcess>(words, folder_ / "crate.log");
     waitUntil("the host's window", [this] { return !hostWindow().isNull(); });

@@ -54,6 +54,7 @@ protected:
     TemporaryFolder folder_;
     std::filesystem::path imageFolder_;
     std::filesystem::path musicFolder_;
+    std::vector<std::string> environment_; ///< What the host gets besides the test's own.
     std::unique_ptr<ChildProcess> program_;
 };
 

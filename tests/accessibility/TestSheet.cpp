@@ -2,6 +2,7 @@
 #include "tests/accessibility/AccessibilityTest.h"
 #include "tests/accessibility/AccessibleEvents.h"
 #include "tests/accessibility/Waiting.h"
+#include "tests/support/HeldImages.h"
 
 #include <gmock/gmock.h>
 
@@ -19,6 +20,13 @@ protected:
         waitUntil("the sheet", [this] { return !sheet().isNull(); });
     }
     Accessible alert() const { return windowOfRole(ATSPI_ROLE_ALERT); }
+
+    /// A burn that goes on until it is let.
+    void startHeldBurn(const HeldImages &held) {
+        environment_ = held.environment();
+        start({silentSong(70)}, 1);
+        burnFromButton();
+    }
 };
 
 TEST_F(AccessibleSheet, BurnIsAnnouncedStepByStep) {
@@ -55,8 +63,8 @@ TEST_F(AccessibleSheet, TimeLeftIsAnnouncedByTenthsOfTheWay) {
 }
 
 TEST_F(AccessibleSheet, SheetHasItsTextsItsBarAndItsButton) {
-    start({silentSong(70)}, 1);
-    burnFromButton();
+    const HeldImages held(imageFolder_);
+    startHeldBurn(held);
     EXPECT_EQ(sheet().name(), "CD Burner");
     EXPECT_FALSE(sheet().find(ATSPI_ROLE_NOTIFICATION, "Burning 'Untitled'").isNull());
     const Accessible bar = sheet().find(ATSPI_ROLE_PROGRESS_BAR, "Progress");
@@ -67,8 +75,8 @@ TEST_F(AccessibleSheet, SheetHasItsTextsItsBarAndItsButton) {
 }
 
 TEST_F(AccessibleSheet, CancelAsksAndEscapeMeansNo) {
-    start({silentSong(70)}, 1);
-    burnFromButton();
+    const HeldImages held(imageFolder_);
+    startHeldBurn(held);
     sheetButton("Cancel").act("Press");
     waitUntil("the question", [this] { return !alert().isNull(); });
     const std::string question =
@@ -82,13 +90,15 @@ TEST_F(AccessibleSheet, CancelAsksAndEscapeMeansNo) {
 }
 
 TEST_F(AccessibleSheet, ReturnMeansYesAndTheBurnIsCancelled) {
-    start({silentSong(70)}, 1);
-    burnFromButton();
+    const HeldImages held(imageFolder_);
+    startHeldBurn(held);
     press("Escape"); // On the sheet it is its button.
     waitUntil("the question", [this] {
         return alert().find(ATSPI_ROLE_PUSH_BUTTON, "Yes").hasState(ATSPI_STATE_FOCUSED);
     });
     press("Return");
+    waitUntil("the question's end", [this] { return alert().isNull(); });
+    held.release();
     waitUntil("the sheet's end", [this] { return sheet().isNull(); });
     EXPECT_EQ(list().rowCount(), 1);
     EXPECT_TRUE(std::filesystem::is_empty(imageFolder_));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/support/CommandResult.h"
+#include "tests/support/HeldImages.h"
 #include "tests/system/Burning.h"
 
 #include <gmock/gmock.h>
@@ -60,11 +61,14 @@ TEST_F(Outputs, JsonEndsWithItsErrorOrCancel) {
     expectJsonLines(failing.output());
     EXPECT_THAT(failing.output(), HasSubstr("\"event\":\"error\",\"code\":40,"));
     std::vector<std::string> arguments =
-        burnArguments("data", "Large", {sparseFile("large", 500U << 20U)});
+        burnArguments("data", "Large", {sparseFile("large", 100U << 20U)});
     arguments.insert(arguments.begin(), "--json");
-    ScorchProcess cancelled(arguments);
+    const HeldImages held(imageFolder);
+    ScorchProcess cancelled(arguments, held.environment());
     ASSERT_TRUE(cancelled.waitForOutput("writingTrack"));
     cancelled.sendSignal(SIGINT);
+    EXPECT_TRUE(cancelled.waitForOutput("cancelling"));
+    held.release();
     EXPECT_EQ(cancelled.wait(), 130);
     expectJsonLines(cancelled.output());
     EXPECT_THAT(cancelled.output(), EndsWith("{\"event\":\"cancelled\"}\n"));
@@ -94,10 +98,15 @@ TEST_F(Outputs, TerminalShowsOneLineAndIsLeftClean) {
 }
 
 TEST_F(Outputs, TerminalIsLeftCleanAfterCtrlC) {
-    ScorchProcess scorch(burnArguments("data", "Large", {sparseFile("large", 500U << 20U)}),
-                         {"TERM=xterm"}, ScorchProcess::Output::terminal);
+    const HeldImages held(imageFolder);
+    std::vector<std::string> environment = held.environment();
+    environment.emplace_back("TERM=xterm");
+    ScorchProcess scorch(burnArguments("data", "Large", {sparseFile("large", 100U << 20U)}),
+                         environment, ScorchProcess::Output::terminal);
     ASSERT_TRUE(scorch.waitForOutput("Writing track 1")) << scorch.errors();
     scorch.sendSignal(SIGINT);
+    EXPECT_TRUE(scorch.waitForOutput("Cancelling"));
+    held.release();
     EXPECT_EQ(scorch.wait(), 130);
     EXPECT_THAT(scorch.output(), EndsWith("\r\x1b[K"));
 }
