@@ -144,6 +144,10 @@ void FilesTableView::paintEvent(QPaintEvent *event) {
     const double y = rows == 0          ? 0.0
                      : *dropRow_ < rows ? rowViewportPosition(static_cast<int>(*dropRow_))
                                         : rectOfRow(rows - 1).bottom() + 1;
+    if (isRightToLeft()) {
+        painter.translate(bounds.width(), 0);
+        painter.scale(-1, 1);
+    }
     drawDropLine(painter, std::clamp(y, knobRadius + 1, bounds.height() - knobRadius - 1),
                  bounds.width(), color);
 }

@@ -70,11 +70,14 @@ FilesTableView::FilesTableView(QWidget *parent)
     setDropIndicatorShown(false);
     setAcceptDrops(false);
     setUpColumns();
-    hoverTracker_ =
-        new HoverTracker(viewport(), {[this](const QPoint &point) { mouseMoved(point); },
-                                      [this] {
-                                          mouseExited();
-                                      }});
+    hoverTracker_ = new HoverTracker(viewport(), {[this](const QPoint &point) {
+                                                      if (!isDragFromHere_) {
+                                                          mouseMoved(point);
+                                                      }
+                                                  },
+                                                  [this] {
+                                                      mouseExited();
+                                                  }});
 }
 
 FilesTableView::~FilesTableView() = default;
@@ -248,7 +251,8 @@ void FilesTableView::deleteBackward() {
 void FilesTableView::hoverAgain() {
     // The rows have moved under the pointer, or away from the button of the row reported last: it
     // is reported again even if it is the same one.
-    reportRow(hoverTracker_->isInside() ? rowAtPoint(hoverTracker_->point()) : -1);
+    const bool isHovering = hoverTracker_->isInside() && !isDragFromHere_;
+    reportRow(isHovering ? rowAtPoint(hoverTracker_->point()) : -1);
 }
 
 void FilesTableView::scrollContentsBy(int dx, int dy) {

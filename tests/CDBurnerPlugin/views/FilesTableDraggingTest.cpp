@@ -15,6 +15,22 @@ struct Starter : FilesTableView {
     static constexpr auto start = &Starter::startDrag;
 };
 
+/// Holds its rows over the table while it is asked for what they carry; and there is no drag.
+class HeldOver : public TableRecorder {
+public:
+    explicit HeldOver(std::function<void(const QMimeData &)> act) : act_(std::move(act)) {}
+
+    bool tableViewWriteRowsWithIndexesToPasteboard(FilesTableView *table, const IndexSet &rows,
+                                                   QMimeData *pasteboard) override {
+        TableRecorder::tableViewWriteRowsWithIndexesToPasteboard(table, rows, pasteboard);
+        act_(*pasteboard);
+        return false;
+    }
+
+private:
+    std::function<void(const QMimeData &)> act_;
+};
+
 class TableDrag : public testing::Test {
 protected:
     TableDrag() {
@@ -107,6 +123,32 @@ TEST_F(TableDrag, ADragThatWouldBeTakenShowsItUntilItLeaves) {
     QDragLeaveEvent leave;
     QApplication::sendEvent(table_.viewport(), &leave);
     EXPECT_EQ(shown(), before);
+}
+
+TEST_F(TableDrag, TheDropLineBeginsWhereTextsDo) {
+    constexpr int aboveLine = 3; // Only the knob at its beginning reaches there.
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        table_.setLayoutDirection(direction);
+        const QImage before = shown();
+        HeldOver drag([this, &before, direction](const QMimeData &rows) {
+            const int line = table_.rectOfRow(2).top();
+            move(rows, {20, line + 2});
+            const QImage during = shown();
+            const auto isChanged = [&](int x) {
+                return during.pixel(x, line - aboveLine) != before.pixel(x, line - aboveLine);
+            };
+            const int knob = 5;
+            const int other = during.width() - 1 - knob;
+            EXPECT_EQ(isChanged(knob), direction == Qt::LeftToRight);
+            EXPECT_EQ(isChanged(other), direction == Qt::RightToLeft);
+        });
+        table_.setDelegate(&drag);
+        table_.selectRowIndexes({4});
+        (table_.*Starter::start)(Qt::CopyAction);
+        table_.setDelegate(&recorder_);
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(table_.viewport(), &leave);
+    }
 }
 
 TEST_F(TableDrag, RowsAreWrittenByTheDelegate) {

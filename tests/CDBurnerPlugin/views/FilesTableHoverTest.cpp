@@ -2,6 +2,7 @@
 #include "tests/CDBurnerPlugin/EventLoop.h"
 #include "tests/CDBurnerPlugin/views/TableRecorder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -12,9 +13,32 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 using Rows = std::vector<qint64>;
+
+struct DragStarter : FilesTableView {
+    static constexpr auto start = &DragStarter::startDrag;
+};
+
+/// Rows are being dragged while it is asked for what they carry; and then there is no drag.
+class WhileDragged : public TableRecorder {
+public:
+    explicit WhileDragged(std::function<void()> act) : act_(std::move(act)) {}
+
+    bool tableViewWriteRowsWithIndexesToPasteboard(FilesTableView * /*table*/,
+                                                   const IndexSet & /*rows*/,
+                                                   QMimeData * /*pasteboard*/) override {
+        act_();
+        return false;
+    }
+
+private:
+    std::function<void()> act_;
+};
 
 /// A window with a table of ten rows in its middle, the pointer far away.
 class TableHover : public testing::Test {
@@ -157,6 +181,24 @@ TEST_F(TableHover, AScrollWithThePointerElsewhereReportsNoRow) {
     hovered_.clear();
     table_.verticalScrollBar()->setValue(100);
     EXPECT_EQ(hovered_, Rows{-1});
+}
+
+TEST_F(TableHover, RestsWhileRowsAreDragged) {
+    fixture_.append(200);
+    table_.reloadData();
+    pointAtRow(3);
+    WhileDragged drag([this] {
+        pointAtRow(5);
+        table_.verticalScrollBar()->setValue(table_.rectOfRow(0).height()); // At the list's edge.
+    });
+    table_.setDelegate(&drag);
+    table_.selectRowIndexes({3});
+    drag.hovered.clear();
+    (table_.*DragStarter::start)(Qt::CopyAction);
+    ASSERT_GE(drag.hovered.size(), 2U);
+    EXPECT_EQ(drag.hovered.back(), 6);
+    drag.hovered.pop_back();
+    EXPECT_THAT(drag.hovered, testing::Each(-1));
 }
 
 TEST_F(TableHover, EndsWithTheLastRow) {
