@@ -78,6 +78,9 @@ void BurnCommand::start() {
 }
 
 void BurnCommand::cancel() {
+    if (state_ == State::lookingAtDisc) {
+        endCancelled(nullptr);
+    }
     if (cancelling_ || state_ == State::ended) {
         return;
     }
@@ -92,14 +95,12 @@ void BurnCommand::cancel() {
         burner_->stopBurn();
         break;
     default: // Nothing runs that would answer.
-        reporter_.cancelled();
-        end(ExitCode::cancelled);
+        endCancelled(nullptr);
     }
 }
 
 void BurnCommand::addFilesProgressDidCanceled() {
-    reporter_.cancelled();
-    end(ExitCode::cancelled);
+    endCancelled(nullptr);
 }
 
 void BurnCommand::addFilesProgressDidChangedIndexOf(const std::string &name, std::int64_t index,
@@ -140,11 +141,15 @@ void BurnCommand::refuse(const std::vector<RefusedFile> &files, RefusalKind kind
 void BurnCommand::deviceStatusDidChanged() {
     if (state_ == State::waitingForDisc && !device_->isCheckingDisc()) {
         examineDisc();
+    } else if (state_ == State::lookingAtDisc && !device_->isCheckingDisc()) {
+        endCancelled(device_.get());
     }
 }
 
 void BurnCommand::deviceDidDisappeared(const std::string &deviceName) {
-    if (state_ == State::waitingForDisc && deviceName == device_->deviceName()) {
+    if (state_ == State::lookingAtDisc && deviceName == device_->deviceName()) {
+        endCancelled(nullptr);
+    } else if (state_ == State::waitingForDisc && deviceName == device_->deviceName()) {
         fail({ScorchErrorCode::driveGone, "The drive was disconnected."});
     }
 }
@@ -174,9 +179,16 @@ void BurnCommand::burnProgressDidError(const ScorchError &error) {
     fail(error);
 }
 
+/// A disc cannot be taken back: what the burn made of it is found out by looking.
 void BurnCommand::burnProgressDidCanceled() {
-    reporter_.cancelled();
-    end(ExitCode::cancelled);
+    state_ = State::lookingAtDisc;
+    device_->setDelegate(nullptr); // During the burn nothing was told; from now on each change is.
+    device_->setDelegate(this);
+    if (device_->isCheckingDisc()) {
+        reporter_.step({BurnStage::waitingForDisc});
+    } else {
+        endCancelled(nullptr);
+    }
 }
 
 void BurnCommand::burnProgressDidChanagedLefttime(double fraction, std::uint64_t lefttime) {
@@ -222,6 +234,11 @@ void BurnCommand::burnProgressDidDone() {
 void BurnCommand::fail(const ScorchError &error) {
     reporter_.failed(error);
     end(exitCodeFor(error.category()));
+}
+
+void BurnCommand::endCancelled(const ScorcherDevice *device) {
+    reporter_.cancelled(device);
+    end(ExitCode::cancelled);
 }
 
 void BurnCommand::end(ExitCode exitCode) {

@@ -27,12 +27,12 @@ public:
     /// Waits for the engine's first search for drives, and returns at once otherwise.
     void start();
 
-    /// Asks the engine to stop whatever it does. `ended` is called when the drive is at rest. More
-    /// requests change nothing.
+    /// Asks the engine to stop whatever it does. `ended` is called when the drive is at rest and
+    /// has told what is left of the disc; a request in the meantime does without the latter.
     void cancel();
 
 private:
-    enum class State { idle, checking, waitingForDisc, burning, ended };
+    enum class State { idle, checking, waitingForDisc, burning, lookingAtDisc, ended };
 
     void addFilesProgressDidCanceled() override;
     void addFilesProgressDidChangedIndexOf(const std::string &name, std::int64_t index,
@@ -57,6 +57,7 @@ private:
     void examineDisc();
     void burn();
     void fail(const ScorchError &error);
+    void endCancelled(const ScorcherDevice *device);
     void end(ExitCode exitCode);
 
     const BurnRequest request_;

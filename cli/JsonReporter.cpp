@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/JsonReporter.h"
 
+#include "cli/DriveChoice.h"
 #include "cli/Json.h"
 
 #include <string_view>
@@ -88,9 +89,13 @@ void JsonReporter::failed(const ScorchError &error) {
     TextReporter::failed(error);
 }
 
-void JsonReporter::cancelled() {
-    output().write(JsonObject("cancelled").line());
-    TextReporter::cancelled();
+void JsonReporter::cancelled(const ScorcherDevice *device) {
+    JsonObject object("cancelled");
+    if (device != nullptr) {
+        object.add("disc", discWord(*device));
+    }
+    output().write(object.line());
+    TextReporter::cancelled(device);
 }
 
 } // namespace cli

@@ -17,7 +17,7 @@ public:
     void progress(double fraction, std::uint64_t leftFrames) override;
     void finished(const BurnSummary &summary) override;
     void failed(const ScorchError &error) override;
-    void cancelled() override;
+    void cancelled(const ScorcherDevice *device) override;
 };
 
 } // namespace cli

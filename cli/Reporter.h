@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string>
 
+class ScorcherDevice;
+
 namespace cli {
 
 enum class BurnStage {
@@ -60,7 +62,8 @@ public:
 
     virtual void finished(const BurnSummary &summary) = 0;
     virtual void failed(const ScorchError &error) = 0;
-    virtual void cancelled() = 0;
+    /// `device`: what it has now is to be told; null where the disc is as it was.
+    virtual void cancelled(const ScorcherDevice *device) = 0;
 
 protected:
     Reporter() = default;

@@ -91,9 +91,9 @@ void TerminalReporter::failed(const ScorchError &error) {
     TextReporter::failed(error);
 }
 
-void TerminalReporter::cancelled() {
+void TerminalReporter::cancelled(const ScorcherDevice *device) {
     clear();
-    TextReporter::cancelled();
+    TextReporter::cancelled(device);
 }
 
 void TerminalReporter::draw() {

@@ -2,6 +2,7 @@
 #include "cli/TextReporter.h"
 
 #include "cli/DisplayText.h"
+#include "cli/DriveChoice.h"
 
 namespace cli {
 
@@ -25,8 +26,8 @@ void TextReporter::failed(const ScorchError &error) {
     writeError(displayText(error.localizedDescription() + detail));
 }
 
-void TextReporter::cancelled() {
-    writeError("cancelled");
+void TextReporter::cancelled(const ScorcherDevice *device) {
+    writeError(device != nullptr ? "cancelled. Disc now: " + discText(*device) : "cancelled");
 }
 
 void TextReporter::writeError(const std::string &text) {

@@ -18,7 +18,7 @@ public:
     void progress(double, std::uint64_t) override {}
     void finished(const BurnSummary &summary) override;
     void failed(const ScorchError &error) override;
-    void cancelled() override;
+    void cancelled(const ScorcherDevice *device) override;
 
 protected:
     Output &output() { return output_; }

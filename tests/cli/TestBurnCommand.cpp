@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "cli/BurnCommand.h"
 
+#include "cli/DriveChoice.h"
 #include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +38,10 @@ public:
     void failed(const ScorchError &error) override {
         notes.push_back("failed: " + error.localizedDescription());
     }
-    void cancelled() override { notes.emplace_back("cancelled"); }
+    void cancelled(const ScorcherDevice *device) override {
+        notes.emplace_back(device != nullptr ? "cancelled: " + cli::discWord(*device)
+                                             : "cancelled");
+    }
 
     std::vector<std::string> notes;
     std::optional<BurnSummary> done;
@@ -264,6 +268,41 @@ TEST_F(BurnCommandTest, CancelDuringTheBurnStopsItOnceAndWaitsForRest) {
     burnerSays().burnProgressDidCanceled();
     EXPECT_THAT(ended, ElementsAre(ExitCode::cancelled));
     EXPECT_EQ(reporter.notes.back(), "cancelled");
+}
+
+TEST_F(BurnCommandTest, CancelTellsWhatItLeftOfTheDisc) {
+    startAndCheck();
+    command->cancel();
+    engine.drive("A").isChecking = true;
+    burnerSays().burnProgressDidCanceled();
+    EXPECT_THAT(ended, IsEmpty());
+    engine.deviceDelegate()->deviceStatusDidChanged();
+    EXPECT_THAT(ended, IsEmpty()) << "it is still being examined";
+    engine.drive("A").isChecking = false;
+    engine.drive("A").isBlank = false;
+    engine.deviceDelegate()->deviceStatusDidChanged();
+    EXPECT_THAT(ended, ElementsAre(ExitCode::cancelled));
+    EXPECT_EQ(reporter.notes.back(), "cancelled: written");
+}
+
+TEST_F(BurnCommandTest, SecondCancelDoesNotWaitForTheDisc) {
+    startAndCheck();
+    command->cancel();
+    engine.drive("A").isChecking = true;
+    burnerSays().burnProgressDidCanceled();
+    command->cancel();
+    command->cancel();
+    EXPECT_THAT(ended, ElementsAre(ExitCode::cancelled));
+    EXPECT_EQ(reporter.notes.back(), "cancelled");
+}
+
+TEST_F(BurnCommandTest, DriveThatGoesWhileItsDiscIsLookedAtEndsTheWait) {
+    startAndCheck();
+    command->cancel();
+    engine.drive("A").isChecking = true;
+    burnerSays().burnProgressDidCanceled();
+    engine.deviceDelegate()->deviceDidDisappeared("A");
+    EXPECT_THAT(ended, ElementsAre(ExitCode::cancelled));
 }
 
 TEST_F(BurnCommandTest, CancelThatCameTooLateIsTheErrorThatTheEngineReports) {

@@ -3,7 +3,9 @@
 #include "cli/JsonReporter.h"
 #include "cli/TerminalReporter.h"
 #include "cli/TextReporter.h"
+#include "engine/ScorcherDevice.h"
 #include "tests/cli/CapturedOutput.h"
+#include "tests/support/FakeEngine.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -158,4 +160,21 @@ TEST_F(JsonReporterTest, TroubleIsToldOnBothOutputs) {
               "{\"event\":\"error\",\"code\":42,\"message\":\"Full.\",\"detail\":\"ENOSPC\"}\n");
     EXPECT_THAT(err.text(), HasSubstr("It is not sound."));
     EXPECT_THAT(err.text(), HasSubstr("Full."));
+}
+
+TEST_F(TextReporterTest, CancelledBurnSaysWhatTheDriveHasNow) {
+    FakeEngine engine;
+    engine.addDrive("A");
+    reporter.cancelled(nullptr);
+    EXPECT_EQ(err.text(), "scorch: cancelled\n");
+    engine.drive("A").isBlank = false;
+    reporter.cancelled(ScorcherDevice::initWithDeviceName("A").get());
+    EXPECT_THAT(err.text(), EndsWith("scorch: cancelled. Disc now: a CD that is not blank\n"));
+}
+
+TEST_F(JsonReporterTest, CancelledBurnSaysWhatTheDriveHasNowInAWord) {
+    FakeEngine engine;
+    engine.addDrive("A");
+    reporter.cancelled(ScorcherDevice::initWithDeviceName("A").get());
+    EXPECT_THAT(out.text(), EndsWith("{\"event\":\"cancelled\",\"disc\":\"blank\"}\n"));
 }

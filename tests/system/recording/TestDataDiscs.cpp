@@ -79,7 +79,8 @@ TEST_F(DataDiscs, SignalInTheMiddleLeavesTheDriveFree) {
         ASSERT_TRUE(scorch.waitForOutput("Writing track 1")) << scorch.errors();
         scorch.sendSignal(signal);
         EXPECT_EQ(scorch.wait(), 130) << scorch.output();
-        EXPECT_THAT(scorch.errors(), HasSubstr("cancelled"));
+        EXPECT_THAT(scorch.errors(),
+                    HasSubstr("cancelled. Disc now: a CD that is not blank (CD-R)"));
     }
     expectDriveToBeFree();
 }
