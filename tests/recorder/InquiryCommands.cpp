@@ -63,8 +63,8 @@ std::vector<Feature> features(const Device &device) {
     const bool canRead = hasMedium && device.disc->status() != DiscStatus::Blank;
     std::vector<Feature> list = {
         {0x0000, 0, true, true, profileList(device)},
-        {0x0001, 1, true, true, {0, 0, 0, 2, 1, 0, 0, 0}}, // Core: ATAPI, device busy events.
-        {0x0002, 1, true, true, {2, 0, 0, 0}},             // Morphing: operational changes.
+        {0x0001, 1, true, true, {0, 0, 0, 2, 0, 0, 0, 0}}, // Core: ATAPI, no device busy events.
+        {0x0002, 1, true, true, {0, 0, 0, 0}},             // Morphing: no operational changes.
         {0x0003, 0, true, true, {0x29, 0, 0, 0}},          // Tray that ejects and can be locked.
         {0x0010, 0, false, canRead, {0, 0, 8, 0, 0, 1, 1, 0}}, // Random readable, 2048 bytes.
         {0x001d, 0, true, true, {}},                           // Multi read.
@@ -76,8 +76,8 @@ std::vector<Feature> features(const Device &device) {
         {0x0107, 0, false, hasMedium, {0x1a, 0, 0, 0}},        // Speeds can be set and asked.
     };
     if (device.profile.canWrite) {
-        list.push_back({0x0021, 1, false, isWritable, {0x01, 0x05, 0, 1, 7, 0, 0, 0}});
-        list.push_back({0x002d, 2, false, isWritable, {0x46, 0, 0x35, 0x00}});
+        // Track at once, of the block types that mode page 05 takes: 0, 8, 9 and 10.
+        list.push_back({0x002d, 2, false, isWritable, {0x46, 0, 0x07, 0x01}});
         list.push_back({0x002e, 0, false, isWritable, {0x67, 0, 0x10, 0}});
         list.push_back({0x0037, 0, false, isRewritable, {0, 0x0f, 0, 0}});
     }

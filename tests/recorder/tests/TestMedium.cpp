@@ -220,6 +220,29 @@ TEST(ModePage, KeepsOnlyWhatTheDriveCanDo) {
     EXPECT_EQ(page[8 + 2] & 15, 2);
 }
 
+TEST(Features, TellTheBlockTypesThatAreTaken) {
+    RecorderFixture fixture;
+    Host host = fixture.host();
+    const Bytes feature = host.send({0x46, 2, 0, 0x2d, 0, 0, 0, 0, 16, 0}).data;
+    ASSERT_EQ(feature.size(), 16U);
+    for (unsigned type = 0; type < 16; ++type) {
+        const bool isTold = (get16(feature, 8 + 6) >> type & 1U) != 0;
+        const Answer answer =
+            host.setWriteMode(WriteMode::TrackAtOnce, type == 0 ? 0 : 4, static_cast<int>(type));
+        EXPECT_EQ(outcome(answer) == "good", isTold) << type;
+    }
+    EXPECT_EQ(host.send({0x46, 2, 0, 0x21, 0, 0, 0, 0, 16, 0}).data.size(), 8U) << "no packets";
+}
+
+TEST(Features, TellNoEventsButThoseOfTheMedium) {
+    RecorderFixture fixture;
+    Host host = fixture.host();
+    const Bytes classes = host.send({0x4a, 1, 0, 0, 0x7e, 0, 0, 0, 8, 0}).data;
+    EXPECT_EQ(classes[3], 0x10);
+    EXPECT_EQ(host.send({0x46, 2, 0, 1, 0, 0, 0, 0, 20, 0}).data[8 + 8] & 1, 0); // DBE.
+    EXPECT_EQ(host.send({0x46, 2, 0, 2, 0, 0, 0, 0, 16, 0}).data[8 + 4] & 2, 0); // OCEvent.
+}
+
 TEST(ReadingDrive, HasNoWayToWrite) {
     RecorderFixture fixture;
     fixture.scene.describe("writes no\n");
