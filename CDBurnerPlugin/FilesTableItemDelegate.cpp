@@ -28,6 +28,12 @@ void FilesTableItemDelegate::initStyleOption(QStyleOptionViewItem *option,
     QStyledItemDelegate::initStyleOption(option, index);
     // Whole rows are selected: a frame around one cell of them would say something else.
     option->state.setFlag(QStyle::State_HasFocus, false);
+    if (option->direction == Qt::RightToLeft) {
+        // A name runs as its own letters do, not as the window does, with the question mark at its
+        // end or the dots where it is cut.
+        constexpr QChar firstStrongIsolate(0x2068);
+        option->text.prepend(firstStrongIsolate);
+    }
     // A picture that is empty takes its room and draws nothing, in every style.
     const bool isLast = index.column() == FilesTableModel::fileinfo;
     option->features |= QStyleOptionViewItem::HasDecoration;

@@ -46,6 +46,23 @@ int xInWindow(const QWidget &widget) {
     return widget.mapTo(widget.window(), QPoint()).x();
 }
 
+/// The middle of the dark pixels of a cell: how far it is to the right, in pixels.
+int middleOfInk(FilesTableView &table, int row, int column) {
+    const QRect place = table.visualRect(table.model()->index(row, column));
+    const QImage cell = table.viewport()->grab(place.adjusted(3, 3, -3, -3)).toImage();
+    qint64 sum = 0;
+    int count = 0;
+    for (int y = 0; y < cell.height(); ++y) {
+        for (int x = 0; x < cell.width(); ++x) {
+            if (cell.pixelColor(x, y).lightness() < 160) {
+                sum += x;
+                ++count;
+            }
+        }
+    }
+    return count > 0 ? static_cast<int>(sum / count) : 0;
+}
+
 } // namespace
 
 TEST_F(RightToLeft, AllWindowsOfTheToolRunThatWay) {
@@ -131,6 +148,20 @@ TEST_F(RightToLeft, LooksTheSameInAHostOfEitherDirection) {
     const QList<QImage> inHostOfSameDirection = picturesOf(widgets);
     QApplication::setLayoutDirection(Qt::LeftToRight);
     EXPECT_EQ(inHostOfOtherDirection, inHostOfSameDirection);
+}
+
+// Signs at the end of a name stand at its end, not at the row's.
+TEST_F(RightToLeft, NamesOfTheOtherDirectionReadAsElsewhere) {
+    openWithBlankDisc();
+    engine.audio().append("WWWWWWWW", 75);
+    engine.audio().append("WWWWWWWW........", 75);
+    controller->updateUI();
+    QApplication::processEvents();
+    // Both names end at the cell's right edge.
+    const int letters = middleOfInk(*table(), 0, FilesTableModel::filename);
+    const int lettersAndDots = middleOfInk(*table(), 1, FilesTableModel::filename);
+    const int dots = table()->fontMetrics().horizontalAdvance(QStringLiteral("........"));
+    EXPECT_LT(lettersAndDots, letters - dots / 2);
 }
 
 TEST_F(RightToLeft, TitlesStandWhereTheTextsBelowThemStart) {
