@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/ProgressWindow.h"
 
+#include "CDBurnerPlugin/ButtonWidth.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/Log.h"
 #include "CDBurnerPlugin/MainQueue.h"
@@ -39,6 +40,10 @@ void ProgressWindow::fitToFont() {
     constexpr int charactersWide = 56;
     const int width = std::max(narrowest, charactersWide * fontMetrics().averageCharWidth());
     ui_->progressIndicator->setFixedWidth(width);
+    const QFontMetrics metrics = ui_->btnCancel->fontMetrics();
+    ui_->btnCancel->setMinimumWidth(
+        std::max(comfortableButtonWidth(metrics, localizedString("Cancel")),
+                 comfortableButtonWidth(metrics, localizedString("OK"))));
 }
 
 QPushButton *ProgressWindow::defaultButton() const {

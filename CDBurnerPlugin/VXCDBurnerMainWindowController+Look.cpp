@@ -3,6 +3,7 @@
 #include "CDBurnerPlugin/VXCDBurnerMainWindowController.h"
 
 #include "CDBurnerPlugin/AmountLabel.h"
+#include "CDBurnerPlugin/ButtonWidth.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/MainWindow.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
@@ -10,6 +11,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QScreen>
 
 #include <algorithm>
@@ -56,6 +58,10 @@ void VXCDBurnerMainWindowController::setUpLook() {
         QSizePolicy policy = hint->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         hint->setSizePolicy(policy);
+    }
+    for (QPushButton *const button : {_btnEject, _btnClear, _btnBurn}) {
+        button->setMinimumWidth(std::max(
+            button->minimumWidth(), comfortableButtonWidth(button->fontMetrics(), button->text())));
     }
     keepRoomFor(_txtUsedCapacity,
                 {localizedString("Used Time: %@"), localizedString("Used Size: %@")});

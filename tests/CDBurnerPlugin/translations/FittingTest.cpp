@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // In every language the window shows its texts whole at the size it opens with.
+#include "CDBurnerPlugin/ButtonWidth.h"
 #include "CDBurnerPlugin/ElidedLabel.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/VXHelpWindow.h"
@@ -33,6 +34,11 @@ void expectFits(const QWidget &widget) {
     EXPECT_GE(widget.height(), widget.sizeHint().height()) << textOf(widget);
 }
 
+void expectRoomBesideTitle(const QPushButton &button) {
+    EXPECT_GE(button.width(), comfortableButtonWidth(button.fontMetrics(), button.text()))
+        << textOf(button);
+}
+
 class Fitting : public ControllerTest, public testing::WithParamInterface<std::string> {
 protected:
     /// The texts of the window itself, not those of its sheet and bubble.
@@ -47,6 +53,9 @@ protected:
             if (widget->window() == controller->window() && isText) {
                 expectFits(*widget);
             }
+        }
+        for (const char *const name : {"_btnEject", "_btnClear", "_btnBurn"}) {
+            expectRoomBesideTitle(*find<QPushButton>(name));
         }
         expectHeaderFits();
     }
@@ -75,6 +84,7 @@ protected:
             EXPECT_GE(line->height(), line->fontMetrics().height()) << line->text().toStdString();
         }
         expectFits(*sheet()->defaultButton());
+        expectRoomBesideTitle(*sheet()->defaultButton());
     }
 
     const SpokenLanguage spoken_{GetParam()};
