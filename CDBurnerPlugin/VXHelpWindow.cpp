@@ -6,6 +6,8 @@
 #include "CDBurnerPlugin/VXHelpView.h"
 
 #include <QApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -110,6 +112,7 @@ void VXHelpWindow::setFrameTopLeftPoint(const QPoint &global) {
 }
 
 void VXHelpWindow::beginFakeMenu() {
+    QGuiApplication::inputMethod()->commit(); // What is half typed somewhere is kept.
     if (!isMonitoring_) {
         isMonitoring_ = true;
         qApp->installEventFilter(this);
@@ -188,6 +191,15 @@ bool VXHelpWindow::isInBubble(const QObject *watched, const QPointF &global) con
            (widget != nullptr && (widget == this || isAncestorOf(widget)));
 }
 
+bool VXHelpWindow::closesOnTyping(const QInputMethodEvent &typed) {
+    if (typed.preeditString().isEmpty() && typed.commitString().isEmpty()) {
+        return false; // It only tidies up.
+    }
+    endFakeMenu();
+    QGuiApplication::inputMethod()->reset(); // Else what was begun would go on with the next key.
+    return true;
+}
+
 bool VXHelpWindow::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
     case QEvent::Wheel:
@@ -200,6 +212,8 @@ bool VXHelpWindow::eventFilter(QObject *watched, QEvent *event) {
             endFakeMenu();
         }
         return true;
+    case QEvent::InputMethod: // What an input method makes of a key.
+        return closesOnTyping(*static_cast<QInputMethodEvent *>(event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         if (isInBubble(watched, static_cast<QMouseEvent *>(event)->globalPosition())) {

@@ -4,14 +4,15 @@
 #include <QPointer>
 #include <QWidget>
 
+class QInputMethodEvent;
 class QLabel;
 class QWindow;
 class VXHelpView;
 
 /// The help bubble: a borderless window that behaves like a menu. While it is open, any key and any
-/// mouse press outside it close it and reach nobody else, shortcuts included; the wheel does
-/// nothing; a modifier key alone does nothing; presses inside reach what is in it. It also closes
-/// when another window becomes the active one.
+/// mouse press outside it close it and reach nobody else, shortcuts and input methods included; the
+/// wheel does nothing; a modifier key alone does nothing; presses inside reach what is in it. It
+/// also closes when another window becomes the active one.
 ///
 /// It is a popup window to the window system. On X11 that grabs the pointer, so that the closing
 /// click reaches no other program either. On Wayland programs neither place windows on the screen
@@ -52,6 +53,7 @@ protected:
 private:
     void activeWindowChanged(QWindow *window);
     bool isInBubble(const QObject *watched, const QPointF &global) const;
+    bool closesOnTyping(const QInputMethodEvent &typed);
     void stopMonitoring();
 
     VXHelpView *bubble_;

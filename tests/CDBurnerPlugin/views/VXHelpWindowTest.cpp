@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QInputMethodEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTest>
@@ -72,6 +74,25 @@ TEST_F(HelpWindow, AShortcutClosesItAndDoesNothingElse) {
     QTest::keyClick(&target_, Qt::Key_B, Qt::ControlModifier);
     EXPECT_FALSE(bubble_.isOpen());
     EXPECT_EQ(activations, 0);
+}
+
+TEST_F(HelpWindow, AKeyThatAnInputMethodTakesClosesItToo) {
+    QLineEdit field(&main_);
+    const auto type = [&field](const QString &composed, const QString &committed) {
+        QInputMethodEvent typed(composed, {});
+        typed.setCommitString(committed);
+        QApplication::sendEvent(&field, &typed);
+    };
+    type({}, {});
+    EXPECT_TRUE(bubble_.isOpen()) << "nothing was typed";
+    type(QStringLiteral("か"), {});
+    EXPECT_FALSE(bubble_.isOpen());
+    bubble_.beginFakeMenu();
+    type({}, QStringLiteral("か"));
+    EXPECT_FALSE(bubble_.isOpen());
+    EXPECT_EQ(field.text(), QString());
+    type({}, QStringLiteral("き"));
+    EXPECT_EQ(field.text(), QStringLiteral("き"));
 }
 
 TEST_F(HelpWindow, AModifierAloneDoesNotCloseIt) {
