@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "CDBurnerPlugin/ElidedComboBox.h"
 
+#include "CDBurnerPlugin/ToolTipText.h"
+
 #include <QHelpEvent>
 #include <QStylePainter>
 #include <QToolTip>
@@ -17,7 +19,7 @@ QString ElidedComboBox::shownText() const {
 bool ElidedComboBox::event(QEvent *event) {
     if (event->type() == QEvent::ToolTip && shownText() != currentText()) {
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                           currentText().toHtmlEscaped(), this);
+                           toolTipText(currentText()), this);
         return true;
     }
     return QComboBox::event(event);

@@ -2,6 +2,7 @@
 #include "CDBurnerPlugin/FilesTableModel.h"
 
 #include "CDBurnerPlugin/Localization.h"
+#include "CDBurnerPlugin/ToolTipText.h"
 #include "engine/ScorchString.h"
 #include "engine/Scorcher.h"
 
@@ -136,7 +137,7 @@ QVariant FilesTableModel::data(const QModelIndex &index, int role) const {
         return text(index);
     case Qt::ToolTipRole:
         // A name may be longer than its column.
-        return index.column() == filename ? text(index).toHtmlEscaped() : QVariant();
+        return index.column() == filename ? toolTipText(text(index)) : QVariant();
     case Qt::AccessibleTextRole:
         // The cell of the name speaks for its row, which is what the keyboard moves by.
         return index.column() == filename

@@ -7,6 +7,7 @@
 #include "CDBurnerPlugin/FilesTableModel.h"
 #include "CDBurnerPlugin/Localization.h"
 #include "CDBurnerPlugin/ResourceLocator.h"
+#include "CDBurnerPlugin/ToolTipText.h"
 #include "CDBurnerPlugin/VolumeNameEdit.h"
 
 #include <QComboBox>
@@ -14,15 +15,6 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QToolTip>
-
-namespace {
-
-/// Rich text, so that a tool tip breaks its lines; nothing for nothing.
-QString wrappedToolTip(const QString &text) {
-    return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
-}
-
-} // namespace
 
 std::vector<std::string> VXCDBurnerMainWindowController::deviceNames() const {
     // Before the first search is complete the question would make the window wait for it.
@@ -56,7 +48,7 @@ void VXCDBurnerMainWindowController::showErrorTips(const char *key) {
         QString::fromStdString(deviceOrAbsent(_selectedDevice).description().problem);
     _errorTipsView->setAccessibleDescription(problem);
     _errorTipsView->setErrorTips(localizedString(key));
-    _discSetStack->setToolTip(wrappedToolTip(problem)); // The strip itself takes no pointer.
+    _discSetStack->setToolTip(toolTipText(problem)); // The strip itself takes no pointer.
     _discSetStack->setCurrentWidget(_errorTipsView);
 }
 
@@ -69,7 +61,7 @@ void VXCDBurnerMainWindowController::tellOfFailedEject() {
     const QString problem = QString::fromStdString(device.description().problem);
     if (!problem.isEmpty()) {
         QToolTip::showText(_btnEject->mapToGlobal(_btnEject->rect().bottomLeft()),
-                           wrappedToolTip(problem), _btnEject);
+                           toolTipText(problem), _btnEject);
     }
 }
 
