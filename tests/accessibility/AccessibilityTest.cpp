@@ -2,6 +2,7 @@
 #include "tests/accessibility/AccessibilityTest.h"
 
 #include "tests/accessibility/Waiting.h"
+#include "tests/accessibility/WindowManager.h"
 #include "tests/support/CommandResult.h"
 
 std::filesystem::path medium(const char *name) {
@@ -97,6 +98,7 @@ std::filesystem::path AccessibilityTest::silentSong(unsigned minutes) const {
 }
 
 void AccessibilityTest::press(const std::string &keys) {
+    waitUntilKeysArrive();
     EXPECT_EQ(runCommand({"xdotool", "key", "--clearmodifiers", keys}).exitCode, 0);
 }
 

@@ -44,7 +44,7 @@ protected:
     /// A song of that many minutes, which takes no space and some time to burn.
     std::filesystem::path silentSong(unsigned minutes) const;
 
-    /// Presses keys as a keyboard does, in the notation of xdotool.
+    /// Presses keys as a keyboard does, in the notation of xdotool, as soon as they reach a window.
     static void press(const std::string &keys);
     /// Brings the window of this title to the front, as a click on the task bar does.
     static void activate(const std::string &title);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/accessibility/AccessibleDesktop.h"
 
-#include "tests/accessibility/Waiting.h"
-#include "tests/support/CommandResult.h"
+#include "tests/accessibility/WindowManager.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -51,8 +50,5 @@ void AccessibleDesktop::startBus() {
 void AccessibleDesktop::startWindowManager() {
     windowManager_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"openbox", "--sm-disable"}, home_ / "window-manager.log");
-    waitUntil("window manager", [] {
-        return runCommand({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"})
-                   .output.find("window id") != std::string::npos;
-    });
+    waitUntilWindowsAreManaged();
 }

@@ -15,9 +15,9 @@ class AccessibleKeyboard : public AccessibilityTest {
 protected:
     void SetUp() override {
         start({medium("short.wav")}, 1);
-        waitUntil("focus in the name field", [this] {
+        ASSERT_TRUE(waitUntil("focus in the name field", [this] {
             return toolWindow().find(ATSPI_ROLE_TEXT).hasState(ATSPI_STATE_FOCUSED);
-        });
+        }));
     }
 
     /// Presses the keys and waits for the focus that comes of it; the name of what has it then.

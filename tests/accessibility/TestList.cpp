@@ -15,7 +15,8 @@ protected:
         start({medium("short.wav"), medium("song.wav"), medium("song-mono.flac")}, 3);
         press("Tab"); // From the name field to the help button,
         press("Tab"); // and to the list.
-        waitUntil("focus in the list", [this] { return list().hasState(ATSPI_STATE_FOCUSED); });
+        ASSERT_TRUE(waitUntil("focus in the list",
+                              [this] { return list().hasState(ATSPI_STATE_FOCUSED); }));
     }
 };
 
@@ -28,8 +29,9 @@ TEST_F(AccessibleList, RowsReadSongAndLength) {
 TEST_F(AccessibleList, ArrowKeysReadRowAfterRow) {
     AccessibleEvents focus("object:state-changed:focused");
     press("Down");
-    waitUntil("the second row",
-              [&focus] { return !focus.all().empty() && focus.all().back().name == "song, 0:05"; });
+    ASSERT_TRUE(waitUntil("the second row", [&focus] {
+        return !focus.all().empty() && focus.all().back().name == "song, 0:05";
+    }));
     EXPECT_THAT(list().selectedRows(), ElementsAre(1));
     press("Right"); // There is nothing beside a row.
     press("Down");
