@@ -26,6 +26,19 @@ IndexSet rowsAfterMove(const IndexSet &rows, std::int64_t destination) {
     return moved;
 }
 
+IndexSet rowsWithinList(const IndexSet &rows, std::int64_t rowCount) {
+    if (rows.empty()) {
+        return rows;
+    }
+    const std::int64_t down = std::max<std::int64_t>(-*rows.begin(), 0);
+    const std::int64_t up = std::max<std::int64_t>(*rows.rbegin() - (rowCount - 1), 0);
+    IndexSet within;
+    for (const std::int64_t row : rows) {
+        within.insert(within.end(), row + down - up);
+    }
+    return within;
+}
+
 std::int64_t rowAfterRemoval(const IndexSet &removed, std::int64_t countBefore,
                              std::int64_t countAfter) {
     const std::int64_t row = std::min(countBefore, *removed.begin());

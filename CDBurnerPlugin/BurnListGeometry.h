@@ -19,6 +19,10 @@ QRectF mirroredDeleteButtonFrame(const QSizeF &rowSize, const QPointF &rowOrigin
 /// they came from below it, else just before it.
 IndexSet rowsAfterMove(const IndexSet &rows, std::int64_t destination);
 
+/// The same rows, moved together into a list of `rowCount` rows where they stand beyond one of its
+/// ends: as those of rows do that were dropped among themselves at the list's beginning.
+IndexSet rowsWithinList(const IndexSet &rows, std::int64_t rowCount);
+
 /// The row that is selected after `removed` rows (not empty) are gone from a list that had
 /// `countBefore` rows and has `countAfter`: the one that moved up into the place of the first, or
 /// the new last one. For a list that is empty now it stays the first removed row.

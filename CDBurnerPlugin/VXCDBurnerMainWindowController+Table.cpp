@@ -59,7 +59,7 @@ void VXCDBurnerMainWindowController::tableViewMoveRowIndexesTo(FilesTableView *t
 void VXCDBurnerMainWindowController::moveRows(FilesTableView *table, const IndexSet &rows,
                                               std::int64_t destination) {
     _scorcher->moveBurnItemTo(rows, destination);
-    table->selectRowIndexes(rowsAfterMove(rows, destination));
+    table->selectRowIndexes(rowsWithinList(rowsAfterMove(rows, destination), numberOfItems()));
 }
 
 void VXCDBurnerMainWindowController::tableViewMouseOverRow(FilesTableView *table, qint64 row) {

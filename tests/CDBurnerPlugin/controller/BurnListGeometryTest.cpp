@@ -30,6 +30,14 @@ TEST(RowsAfterMove, StandWhereTheBlockLands) {
     EXPECT_EQ(rowsAfterMove({}, 3), IndexSet{});
 }
 
+TEST(RowsWithinList, StayTogetherAtTheEndThatTheyStandBeyond) {
+    EXPECT_EQ(rowsWithinList({-1}, 3), IndexSet{0});
+    EXPECT_EQ(rowsWithinList({-1, 0}, 3), (IndexSet{0, 1}));
+    EXPECT_EQ(rowsWithinList({8, 9, 10, 11}, 10), (IndexSet{6, 7, 8, 9}));
+    EXPECT_EQ(rowsWithinList({1, 2}, 3), (IndexSet{1, 2}));
+    EXPECT_EQ(rowsWithinList({}, 3), IndexSet{});
+}
+
 TEST(RowAfterRemoval, IsTheOneThatMovedUpOrTheNewLast) {
     EXPECT_EQ(rowAfterRemoval({1, 2}, 6, 4), 1);
     EXPECT_EQ(rowAfterRemoval({4, 5}, 6, 4), 3);

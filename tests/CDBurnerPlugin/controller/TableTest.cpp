@@ -120,7 +120,10 @@ INSTANTIATE_TEST_SUITE_P(Examples, BurnListMove,
                                          MoveCase{"UpPastOthers", {4, 5}, 1, {1, 2}},
                                          MoveCase{"JustAboveItself", {3}, 3, {2}},
                                          MoveCase{"JustBelowItself", {3}, 4, {3}},
-                                         MoveCase{"FromBothSides", {1, 6}, 3, {3, 4}}),
+                                         MoveCase{"FromBothSides", {1, 6}, 3, {3, 4}},
+                                         MoveCase{"FirstRowAboveItself", {0}, 0, {0}},
+                                         MoveCase{"FirstRowsAmongThemselves", {0, 1}, 1, {0, 1}},
+                                         MoveCase{"BeyondTheEnd", {0, 1, 7}, 6, {5, 6, 7}}),
                          [](const auto &testInfo) { return std::string(testInfo.param.name); });
 
 TEST_F(BurnList, DraggedRowsCarryOneFormatAndAreAnnouncedAsACopy) {
