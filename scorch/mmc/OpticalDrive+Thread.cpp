@@ -153,11 +153,12 @@ void OpticalDrive::glance(const std::stop_token &stop) {
 /// ours any more: the kernel lifts it when nobody has the drive open.
 void OpticalDrive::unlockDoor() {
     Result<MmcDevice, MmcError> device = services_.open(examined_.node);
-    const auto isUnlocked = [&device] {
+    bool isDone = false;
+    constexpr int attempts = 2; // The first may be answered with what happened meanwhile.
+    for (int attempt = 0; device && !isDone && attempt < attempts; ++attempt) {
         const Result<void, MmcError> unlocked = device->unlock();
-        return unlocked || unlocked.error().kind == MmcError::Kind::busy;
-    };
-    const bool isDone = device && (isUnlocked() || isUnlocked());
+        isDone = unlocked || unlocked.error().kind == MmcError::Kind::busy;
+    }
     const std::lock_guard lock(mutex_);
     unlockWanted_ = !isDone;
     nextUnlock_ = std::chrono::steady_clock::now() + services_.glanceInterval;

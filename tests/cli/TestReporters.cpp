@@ -13,7 +13,6 @@
 using namespace cli;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
