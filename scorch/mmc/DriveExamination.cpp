@@ -65,6 +65,16 @@ void fail(DriveFindings &findings, const ExaminedDrive &drive, const MmcError &e
 
 } // namespace
 
+std::optional<MmcError> otherWriter(const std::filesystem::path &node) {
+    if (writerOf(node).empty()) {
+        return std::nullopt;
+    }
+    return MmcError{.kind = MmcError::Kind::busy,
+                    .sense = {},
+                    .systemError = EBUSY,
+                    .command = "looking for who writes"};
+}
+
 DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &stop) {
     DriveFindings findings;
     Result<MmcDevice, MmcError> device = drive.open(drive.node);
@@ -73,12 +83,8 @@ DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &st
         return findings;
     }
     // In the middle of a recording a drive is not to be asked about its disc: it may break off.
-    if (!writerOf(drive.node).empty()) {
-        fail(findings, drive,
-             {.kind = MmcError::Kind::busy,
-              .sense = {},
-              .systemError = EBUSY,
-              .command = "examination"});
+    if (const auto writer = otherWriter(drive.node)) {
+        fail(findings, drive, *writer);
         return findings;
     }
     const Result<MediaEvent, MmcError> event = mediaEvent(*device, std::nullopt);

@@ -38,6 +38,10 @@ struct DriveFindings {
     bool isInterrupted() const { return failure && failure->kind == MmcError::Kind::interrupted; }
 };
 
+/// Why a drive has to be left alone, if another program has it open for writing: it burns, and may
+/// rely on a door that it has locked. Looks into /proc, and may block for it.
+std::optional<MmcError> otherWriter(const std::filesystem::path &node);
+
 /// One whole examination, from opening the device to closing it. Blocks.
 DriveFindings examineDrive(const ExaminedDrive &drive, const std::stop_token &stop);
 

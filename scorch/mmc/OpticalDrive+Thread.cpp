@@ -175,6 +175,8 @@ void OpticalDrive::ejectDisc() {
         .driveName = examined_.name, .node = examined_.node, .sector = std::nullopt};
     if (!device) {
         failure = driveError(device.error(), context);
+    } else if (const auto writer = otherWriter(examined_.node)) {
+        failure = driveError(*writer, context); // Its lock must stay.
     } else if (const Result<void, MmcError> ejected = device->eject(); !ejected) {
         failure = ejectError(ejected.error(), context);
     }

@@ -46,8 +46,9 @@ OpticalDriveServices DriveHarness::services() {
     return services;
 }
 
-std::shared_ptr<OpticalDrive> DriveHarness::makeDrive(bool isToldOfMedia) {
-    const FoundDevice device{.node = "/dev/sr0",
+std::shared_ptr<OpticalDrive> DriveHarness::makeDrive(bool isToldOfMedia,
+                                                      const std::filesystem::path &node) {
+    const FoundDevice device{.node = node,
                              .identity = {.vendor = "ACME", .model = "DRW-24", .revision = "1.0"}};
     auto drive = OpticalDrive::create(device, "ACME DRW-24", isToldOfMedia, services());
     drive->setStateObserver([this] { notify(); });

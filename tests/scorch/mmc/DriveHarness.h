@@ -22,7 +22,8 @@ protected:
     const recorder::DriveScene &scene() const { return recorder_.scene; }
 
     /// One that glances at its disc all the time, unless it is told of it.
-    std::shared_ptr<scorch::OpticalDrive> makeDrive(bool isToldOfMedia = false);
+    std::shared_ptr<scorch::OpticalDrive> makeDrive(bool isToldOfMedia = false,
+                                                    const std::filesystem::path &node = "/dev/sr0");
 
     /// From now on opening the drive waits for release().
     void hold();

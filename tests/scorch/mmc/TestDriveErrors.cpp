@@ -2,6 +2,8 @@
 #include "scorch/mmc/DriveErrors.h"
 
 #include "scorch/mmc/DeviceHolder.h"
+#include "scorch/support/FileDescriptor.h"
+#include "tests/scorch/mmc/HolderProcess.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -10,7 +12,6 @@
 #include <fcntl.h>
 #include <fstream>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -128,30 +129,14 @@ TEST(DriveErrors, WhoHoldsADriveIsNamed) {
     const auto node = folder.path() / "sr0";
     std::ofstream(node).put(' ');
     EXPECT_EQ(holderOf(node), "");
-    const int own = ::open(node.c_str(), O_RDONLY | O_CLOEXEC);
+    const FileDescriptor own(::open(node.c_str(), O_RDONLY | O_CLOEXEC));
     EXPECT_EQ(holderOf(node), "") << "this program does not stand in its own way";
-    int ready[2] = {};
-    int done[2] = {};
-    ASSERT_EQ(::pipe(ready) | ::pipe(done), 0);
-    const pid_t child = ::fork();
-    if (child == 0) { // Holds `own`, too.
-        char byte = 0;
-        ::close(done[1]);
-        [[maybe_unused]] const auto told = ::write(ready[1], &byte, 1);
-        [[maybe_unused]] const auto heard = ::read(done[0], &byte, 1);
-        ::_exit(0);
-    }
-    char byte = 0;
-    EXPECT_EQ(::read(ready[0], &byte, 1), 1);
+    const HolderProcess other;
     const std::string holder = holderOf(node);
-    EXPECT_THAT(holder, HasSubstr("(" + std::to_string(child) + ")"));
+    EXPECT_THAT(holder, HasSubstr("(" + other.number() + ")"));
     EXPECT_THAT(driveError(systemError(MmcError::Kind::busy, EBUSY),
                            {.driveName = "ACME", .node = node, .sector = {}})
                     .localizedDescription(),
                 HasSubstr("The program " + holder +
                           " uses the drive “ACME”. Wait until it has finished, or close it"));
-    for (const int descriptor : {own, ready[0], ready[1], done[0], done[1]}) {
-        ::close(descriptor);
-    }
-    ::waitpid(child, nullptr, 0);
 }

@@ -1,16 +1,21 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "scorch/mmc/OpticalDrive.h"
 
+#include "scorch/support/FileDescriptor.h"
 #include "tests/scorch/mmc/DriveHarness.h"
+#include "tests/scorch/mmc/HolderProcess.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
 #include <chrono>
+#include <fcntl.h>
 
 using namespace scorch;
 using recorder::DiscKind;
+using testing::Contains;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -210,6 +215,22 @@ TEST_F(OpticalDriveTest, ATrayThatDoesNotOpenIsExplainedUntilTheDiscChanges) {
     scene().control("tray open #1\n");
     EXPECT_TRUE(waitFor([&] { return !drive->state().disc.present; }));
     EXPECT_EQ(drive->description().problem, "");
+}
+
+TEST_F(OpticalDriveTest, ADiscOnWhichAnotherProgramBurnsStaysIn) {
+    scene().makeDisc(blankCd());
+    const auto node = scene().folder() / "other";
+    const FileDescriptor own(::open(node.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    const auto drive = makeDrive(true, node);
+    drive->setWatched(true);
+    EXPECT_TRUE(waitFor([&] { return drive->state().disc.blank; }));
+    recorder::Recorder(scene().folder()).execute(recorder::Bytes{0x1E, 0, 0, 0, 1, 0});
+    const HolderProcess other;
+    drive->eject();
+    EXPECT_TRUE(waitUntilChecked(*drive));
+    EXPECT_THAT(drive->description().problem, HasSubstr("(" + other.number() + ") uses the drive"));
+    EXPECT_THAT(recorder().commands(), Not(Contains(0x1E))) << "its lock is left alone";
+    EXPECT_THAT(recorder().commands(), Not(Contains(0x1B)));
 }
 
 TEST_F(OpticalDriveTest, DescriptionHasAllThatIsKnown) {
