@@ -94,7 +94,7 @@ protected:
 
 TEST_P(Fitting, FullListAndBothTypes) {
     openWithSongs(99);
-    engine.audio().used = 75 * 60 * 70;
+    engine.audio().used = std::uint64_t{75} * 60 * 70;
     controller->updateUI();
     expectWindowFits();
     typePopup()->setCurrentIndex(1);
@@ -107,8 +107,8 @@ TEST_P(Fitting, FullListAndBothTypes) {
 
 TEST_P(Fitting, ListThatIsTooLong) {
     openWithBlankDisc();
-    engine.audio().append("Long", 75 * 60 * 199);
-    engine.audio().used = 75 * 60 * 199;
+    engine.audio().append("Long", std::int64_t{75} * 60 * 199);
+    engine.audio().used = std::uint64_t{75} * 60 * 199;
     engine.audio().overflows = true;
     controller->updateUI();
     expectWindowFits();
