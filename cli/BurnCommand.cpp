@@ -186,8 +186,9 @@ void BurnCommand::burnProgressDidCanceled() {
     device_->setDelegate(this);
     if (device_->isCheckingDisc()) {
         reporter_.step({BurnStage::waitingForDisc});
-    } else {
-        endCancelled(nullptr);
+    } else { // It may have looked already, faster than this was called.
+        const bool isUsed = device_->isDiscInDevice() && !device_->isDiscBlank();
+        endCancelled(isUsed ? device_.get() : nullptr);
     }
 }
 

@@ -285,6 +285,15 @@ TEST_F(BurnCommandTest, CancelTellsWhatItLeftOfTheDisc) {
     EXPECT_EQ(reporter.notes.back(), "cancelled: written");
 }
 
+TEST_F(BurnCommandTest, CancelTellsWhatItLeftOfADiscThatIsExaminedAlready) {
+    startAndCheck();
+    command->cancel();
+    engine.drive("A").isBlank = false;
+    burnerSays().burnProgressDidCanceled();
+    EXPECT_THAT(ended, ElementsAre(ExitCode::cancelled));
+    EXPECT_EQ(reporter.notes.back(), "cancelled: written");
+}
+
 TEST_F(BurnCommandTest, SecondCancelDoesNotWaitForTheDisc) {
     startAndCheck();
     command->cancel();
