@@ -3,6 +3,8 @@
 
 #include "tests/recorder/tests/Host.h"
 
+#include <sys/resource.h>
+
 using namespace recorder;
 
 namespace {
@@ -32,6 +34,10 @@ std::string wavHeader(std::uint32_t bytes) {
 } // namespace
 
 Programs::Programs() {
+    // A user may lock some memory, and wodim then wants to lock more than that. Where nothing may
+    // be locked it does without.
+    const rlimit nothing{};
+    setrlimit(RLIMIT_MEMLOCK, &nothing);
     insertBlank(DiscKind::CdR);
 }
 
