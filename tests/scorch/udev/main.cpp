@@ -12,6 +12,7 @@ int main(int argc, char *argv[]) {
         setenv("LD_PRELOAD", "libumockdev-preload.so.0", 1);
         // The sanitizer's runtime is in the program, but not in front of the preloaded library.
         setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 1);
+        setenv("TSAN_OPTIONS", "suppressions=" UDEV_RACES, 1);
         execv("/proc/self/exe", argv);
         return EXIT_FAILURE;
     }
