@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 // The window as a whole: its size, its controls by keyboard, a burn from the first to the last
 // click, and what happens around the sheet.
+#include "tests/support/HeldImages.h"
 #include "tests/window/WindowTest.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <gmock/gmock.h>
 
@@ -16,9 +18,11 @@ class DesktopWindow : public WindowTest {
 protected:
     bool isSheetUp() { return hasWindow("ProgressWindow"); }
 
-    /// A list that takes long to burn, and its burn under way.
-    void startLongBurn() {
-        start({longSong()});
+    /// A burn that goes on until it is let.
+    void startHeldBurn() {
+        held_.emplace(imageFolder_);
+        environment_ = held_->environment();
+        start({song("held")});
         Hand::clickAt(middleOf("_btnBurn"));
         waitUntil("the burn is under way",
                   [this] { return hasKeyboard("ProgressWindow") && !images().empty(); });
@@ -45,6 +49,8 @@ protected:
         std::sort(names.begin(), names.end());
         return names;
     }
+
+    std::optional<HeldImages> held_; // Lets go before the host is to end.
 };
 
 TEST_F(DesktopWindow, CannotBeMadeSmallerThanItsContent) {
@@ -130,28 +136,30 @@ TEST_F(DesktopWindow, DataDiscCanBeChosenAndBurnedByKeyboard) {
 }
 
 TEST_F(DesktopWindow, CloseBoxAsksWhileTheSheetIsUp) {
-    startLongBurn();
+    startHeldBurn();
     desktop_.closeWindow(windowId("MainWindow"));
     clickAlertButton("No");
     EXPECT_TRUE(isSheetUp());
     desktop_.closeWindow(windowId("MainWindow"));
     clickAlertButton("Yes");
+    held_->release();
     waitUntil("the tool's window is gone", [this] { return !hasWindow("MainWindow"); });
     waitUntil("nothing is left of the disc", [this] { return images().empty(); });
     EXPECT_TRUE(hasWindow("crateWindow"));
 }
 
 TEST_F(DesktopWindow, CancelOfTheSheetAsksAndStops) {
-    startLongBurn();
+    startHeldBurn();
     Hand::clickAt(middleOf("btnCancel"));
     clickAlertButton("Yes");
+    held_->release();
     waitUntil("the sheet is gone", [this] { return !isSheetUp(); });
     EXPECT_THAT(images(), IsEmpty());
     EXPECT_EQ(list().size(), 1U);
 }
 
 TEST_F(DesktopWindow, ReturnOnTheSheetDoesNotCancelABurn) {
-    startLongBurn();
+    startHeldBurn();
     Hand::keys({"Return"});
     Hand::keys({"Escape"}); // This one asks; so the one before has been dealt with.
     clickAlertButton("No");
@@ -160,7 +168,7 @@ TEST_F(DesktopWindow, ReturnOnTheSheetDoesNotCancelABurn) {
 }
 
 TEST_F(DesktopWindow, ControlsBehindTheSheetAreDead) {
-    startLongBurn();
+    startHeldBurn();
     moveWindow({1000, 300}); // From under the sheet.
     Hand::clickAt(middleOf("_btnClear"));
     Hand::clickAt(middleOf("_btnHelp"));
@@ -171,7 +179,7 @@ TEST_F(DesktopWindow, ControlsBehindTheSheetAreDead) {
 }
 
 TEST_F(DesktopWindow, DropBehindTheSheetIsRefused) {
-    startLongBurn();
+    startHeldBurn();
     startNeighbourBeside();
     offer({{"text/uri-list", address(song("late"))}});
     EXPECT_EQ(dropOn(pointInRow(0), Answer::blocked), "ignore");

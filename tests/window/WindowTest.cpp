@@ -66,8 +66,10 @@ void WindowTest::startWithoutDrive() {
 }
 
 void WindowTest::launch(const std::vector<std::filesystem::path> &files, bool hasDrive) {
-    std::vector<std::string> arguments = {TEST_WINDOW_HOST, "--tool=CD Burner",
-                                          "--music=" + musicFolder_.string()};
+    std::vector<std::string> arguments = {"env"};
+    arguments.insert(arguments.end(), environment_.begin(), environment_.end());
+    arguments.insert(arguments.end(),
+                     {TEST_WINDOW_HOST, "--tool=CD Burner", "--music=" + musicFolder_.string()});
     if (hasDrive) {
         arguments.push_back("--image-drive=" + imageFolder_.string());
     }
@@ -267,14 +269,6 @@ std::string WindowTest::address(const std::filesystem::path &path) {
 std::filesystem::path WindowTest::song(const std::string &name) const {
     return folder_.write("songs/" + name + ".wav",
                          waveHeader(bytesPerSecond) + std::string(bytesPerSecond, '\0'));
-}
-
-std::filesystem::path WindowTest::longSong() const {
-    constexpr std::uint32_t dataBytes = 70 * 60 * bytesPerSecond;
-    const std::string header = waveHeader(dataBytes);
-    std::filesystem::path file = folder_.write("songs/long.wav", header);
-    std::filesystem::resize_file(file, header.size() + dataBytes);
-    return file;
 }
 
 std::string WindowTest::description() {

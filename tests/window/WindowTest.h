@@ -107,9 +107,8 @@ protected:
     static std::string address(const std::filesystem::path &path);
     /// A song of a second, which is silence.
     std::filesystem::path song(const std::string &name) const;
-    /// One of seventy minutes, which takes no room on the disk.
-    std::filesystem::path longSong() const;
 
+    std::vector<std::string> environment_; ///< The host's own, as NAME=VALUE.
     TemporaryFolder folder_;
     std::filesystem::path imageFolder_;
     std::filesystem::path musicFolder_;
