@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/accessibility/AccessibilityTest.h"
 
+#include "tests/accessibility/Keyboard.h"
 #include "tests/accessibility/Waiting.h"
-#include "tests/accessibility/WindowManager.h"
 #include "tests/support/CommandResult.h"
 
 std::filesystem::path medium(const char *name) {

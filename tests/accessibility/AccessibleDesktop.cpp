@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/accessibility/AccessibleDesktop.h"
 
-#include "tests/accessibility/WindowManager.h"
+#include "tests/support/X11.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -50,5 +50,7 @@ void AccessibleDesktop::startBus() {
 void AccessibleDesktop::startWindowManager() {
     windowManager_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"openbox", "--sm-disable"}, home_ / "window-manager.log");
-    waitUntilWindowsAreManaged();
+    if (const x11::Connection connection = x11::connect()) {
+        x11::waitUntilWindowsAreManaged(connection.get());
+    }
 }

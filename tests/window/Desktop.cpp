@@ -2,65 +2,14 @@
 #include "tests/window/Desktop.h"
 
 #include "tests/support/CommandResult.h"
-#include "tests/window/Deadline.h"
+#include "tests/support/Deadline.h"
+#include "tests/support/X11.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <cstring>
 #include <tuple>
-
-namespace {
-
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, decltype(&std::free)>;
-
-template <typename Reply>
-Owned<Reply> owned(Reply *reply) {
-    return Owned<Reply>(reply, &std::free);
-}
-
-xcb_atom_t atom(xcb_connection_t *connection, const std::string &name) {
-    const auto cookie =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
-    const auto reply = owned(xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
-xcb_window_t rootOf(xcb_connection_t *connection) {
-    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
-}
-
-/// A window that nobody sees.
-xcb_window_t createWindow(xcb_connection_t *connection) {
-    const xcb_window_t window = xcb_generate_id(connection);
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, rootOf(connection), 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    return window;
-}
-
-/// Asks the window manager for something that concerns a window.
-void sendToWindowManager(xcb_connection_t *connection, xcb_window_t window,
-                         const std::string &request) {
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = atom(connection, request);
-    xcb_send_event(connection, 0, rootOf(connection),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char *>(&message));
-    xcb_flush(connection);
-}
-
-bool hasProperty(xcb_connection_t *connection, xcb_window_t window, xcb_atom_t name) {
-    const auto cookie =
-        xcb_get_property(connection, 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
-    const auto reply = owned(xcb_get_property_reply(connection, cookie, nullptr));
-    return reply != nullptr && reply->type != XCB_ATOM_NONE;
-}
-
-} // namespace
 
 Desktop::Desktop() {
     const std::string screen =
@@ -77,25 +26,15 @@ Desktop::Desktop() {
     }
     const std::string name = ":" + number;
     setenv("DISPLAY", name.c_str(), 1);
-    connection_ = xcb_connect(name.c_str(), nullptr);
-    if (xcb_connection_has_error(connection_) != 0) {
-        ADD_FAILURE() << "no connection to display " << name;
+    connection_ = x11::connect();
+    if (connection_ == nullptr) {
         return;
     }
-    root_ = rootOf(connection_);
     windowManager_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"openbox", "--sm-disable", "--config-file",
                                  TEST_WINDOW_DIR "/openbox.xml"},
         errorFile());
-    EXPECT_TRUE(eventually([this] { return hasWindowManager(); })) << readFile(errorFile());
-    EXPECT_TRUE(eventually([this] { return isManaging(); })) << readFile(errorFile());
-}
-
-Desktop::~Desktop() {
-    windowManager_.reset();
-    if (connection_ != nullptr) {
-        xcb_disconnect(connection_);
-    }
+    x11::waitUntilWindowsAreManaged(connection_.get());
 }
 
 void Desktop::splitIntoTwoMonitors() {
@@ -111,44 +50,16 @@ void Desktop::splitIntoTwoMonitors() {
     }
 }
 
-bool Desktop::hasWindowManager() {
-    // The window that is named must name itself: the property may be left over.
-    const std::string check = "_NET_SUPPORTING_WM_CHECK";
-    const std::uint32_t window = property(root_, check, XCB_ATOM_WINDOW);
-    return window != 0 && property(window, check, XCB_ATOM_WINDOW) == window;
-}
-
-bool Desktop::isManaging() {
-    constexpr std::chrono::milliseconds patience{500}; // Then another window is tried.
-    const std::uint32_t window = createWindow(connection_);
-    xcb_map_window(connection_, window);
-    const xcb_atom_t state = atom(connection_, "WM_STATE");
-    const bool isManaged =
-        eventually([&] { return hasProperty(connection_, window, state); }, patience);
-    xcb_destroy_window(connection_, window);
-    xcb_flush(connection_);
-    return isManaged;
-}
-
 void Desktop::waitForWindowManager() {
-    const std::unique_ptr<xcb_connection_t, decltype(&xcb_disconnect)> connection(
-        xcb_connect(nullptr, nullptr), &xcb_disconnect);
-    if (xcb_connection_has_error(connection.get()) != 0) {
-        ADD_FAILURE() << "no connection to the display";
-        return;
+    if (const x11::Connection connection = x11::connect()) {
+        x11::waitForWindowManager(connection.get());
     }
-    // It answers in the order in which it hears.
-    const xcb_window_t window = createWindow(connection.get());
-    sendToWindowManager(connection.get(), window, "_NET_REQUEST_FRAME_EXTENTS");
-    const xcb_atom_t answer = atom(connection.get(), "_NET_FRAME_EXTENTS");
-    EXPECT_TRUE(eventually([&] { return hasProperty(connection.get(), window, answer); }))
-        << "the window manager is silent";
 }
 
 std::uint32_t Desktop::property(std::uint32_t window, const std::string &name, std::uint32_t type) {
-    const auto cookie =
-        xcb_get_property(connection_, 0, window, atom(connection_, name), type, 0, 1);
-    const auto reply = owned(xcb_get_property_reply(connection_, cookie, nullptr));
+    const auto cookie = xcb_get_property(connection_.get(), 0, window,
+                                         x11::atomNamed(connection_.get(), name), type, 0, 1);
+    const auto reply = x11::owned(xcb_get_property_reply(connection_.get(), cookie, nullptr));
     if (reply == nullptr || xcb_get_property_value_length(reply.get()) != sizeof(std::uint32_t)) {
         return 0;
     }
@@ -158,20 +69,21 @@ std::uint32_t Desktop::property(std::uint32_t window, const std::string &name, s
 }
 
 std::uint32_t Desktop::activeWindow() {
-    return property(root_, "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
+    return property(x11::rootOf(connection_.get()), "_NET_ACTIVE_WINDOW", XCB_ATOM_WINDOW);
 }
 
 std::uint32_t Desktop::keyboardWindow() {
-    const auto reply =
-        owned(xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
+    const auto reply = x11::owned(xcb_get_input_focus_reply(
+        connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
     return reply != nullptr ? reply->focus : 0;
 }
 
 QRect Desktop::windowRect(std::uint32_t window) {
+    xcb_connection_t *const server = connection_.get();
     const auto geometry =
-        owned(xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr));
-    const auto corner = owned(xcb_translate_coordinates_reply(
-        connection_, xcb_translate_coordinates(connection_, window, root_, 0, 0), nullptr));
+        x11::owned(xcb_get_geometry_reply(server, xcb_get_geometry(server, window), nullptr));
+    const auto corner = x11::owned(xcb_translate_coordinates_reply(
+        server, xcb_translate_coordinates(server, window, x11::rootOf(server), 0, 0), nullptr));
     if (geometry == nullptr || corner == nullptr) {
         return {};
     }
@@ -181,10 +93,10 @@ QRect Desktop::windowRect(std::uint32_t window) {
 std::vector<QColor> Desktop::pixels(const QRect &area) {
     const QRect seen = area.intersected(QRect(QPoint(0, 0), size));
     const auto cookie = xcb_get_image(
-        connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, static_cast<std::int16_t>(seen.x()),
-        static_cast<std::int16_t>(seen.y()), static_cast<std::uint16_t>(seen.width()),
-        static_cast<std::uint16_t>(seen.height()), ~0U);
-    const auto reply = owned(xcb_get_image_reply(connection_, cookie, nullptr));
+        connection_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, x11::rootOf(connection_.get()),
+        static_cast<std::int16_t>(seen.x()), static_cast<std::int16_t>(seen.y()),
+        static_cast<std::uint16_t>(seen.width()), static_cast<std::uint16_t>(seen.height()), ~0U);
+    const auto reply = x11::owned(xcb_get_image_reply(connection_.get(), cookie, nullptr));
     std::vector<QColor> colors;
     if (reply == nullptr) {
         ADD_FAILURE() << "no picture of the screen";
@@ -201,5 +113,5 @@ std::vector<QColor> Desktop::pixels(const QRect &area) {
 }
 
 void Desktop::closeWindow(std::uint32_t window) {
-    sendToWindowManager(connection_, window, "_NET_CLOSE_WINDOW");
+    x11::sendToWindowManager(connection_.get(), window, "_NET_CLOSE_WINDOW");
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/X11.h"
 #include "tests/window/ChildProcess.h"
 
 #include <QColor>
@@ -13,7 +14,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-#include <xcb/xcb.h>
 
 /// An X server without a screen to look at, and a window manager on it, both of the test's own:
 /// on a display that nobody else uses, and ended with this object. Programs that are started
@@ -21,7 +21,7 @@
 class Desktop {
 public:
     Desktop();
-    ~Desktop();
+    ~Desktop() = default;
     Desktop(const Desktop &) = delete;
     Desktop &operator=(const Desktop &) = delete;
 
@@ -31,9 +31,7 @@ public:
     /// later.
     static void splitIntoTwoMonitors();
 
-    /// Returns when the window manager of the display DISPLAY has dealt with everything that was
-    /// done before. It sees a click before the window does; until it has let it through, the
-    /// pointer stands still, and a press that comes meanwhile can be lost.
+    /// See x11::waitForWindowManager; of the display DISPLAY.
     static void waitForWindowManager();
 
     /// The window that the window manager calls active; 0 for none.
@@ -54,14 +52,9 @@ public:
 private:
     /// A property of one 32 bit value; 0 if there is none.
     std::uint32_t property(std::uint32_t window, const std::string &name, std::uint32_t type);
-    bool hasWindowManager();
-    /// Whether a window that is put up now is taken care of. A window manager says that it is there
-    /// some time before that; what is put up between is left alone for ever.
-    bool isManaging();
 
     TemporaryFolder folder_;
     std::unique_ptr<ChildProcess> server_;
+    x11::Connection connection_{nullptr, &xcb_disconnect};
     std::unique_ptr<ChildProcess> windowManager_;
-    xcb_connection_t *connection_ = nullptr;
-    std::uint32_t root_ = 0;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/window/Program.h"
 
-#include "tests/window/Deadline.h"
+#include "tests/support/Deadline.h"
 
 #include <QJsonDocument>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #pragma once
 
+#include "tests/support/Deadline.h"
 #include "tests/support/TemporaryFolder.h"
-#include "tests/window/Deadline.h"
 #include "tests/window/Desktop.h"
 #include "tests/window/Hand.h"
 #include "tests/window/Program.h"

@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
 #include "tests/window/neighbour/DropReply.h"
 
+#include "tests/support/X11.h"
+
 #include <QGuiApplication>
 
-#include <cstdlib>
-#include <cstring>
-#include <memory>
 #include <utility>
-#include <xcb/xcb.h>
 
 namespace {
 
 constexpr std::uint8_t sentByClient = 0x80;
 
 xcb_atom_t atomNamed(const char *name) {
-    xcb_connection_t *const connection =
-        qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-    const auto cookie =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr), &std::free);
-    return reply != nullptr ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    return x11::atomNamed(
+        qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection(), name);
 }
 
 } // namespace
