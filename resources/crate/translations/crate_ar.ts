@@ -116,7 +116,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>No song matches “%1”</source>
-        <translation>لا توجد أغنية تطابق «%1»</translation>
+        <translation>لا توجد أغنية تطابق «&#x2068;%1&#x2069;»</translation>
     </message>
     <message>
         <source>Titles, artists, albums and file names are searched.</source>
@@ -128,7 +128,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>%1: %2. Choose another folder.</source>
-        <translation>%1: ‏%2. اختر مجلدًا آخر.</translation>
+        <translation>&#x200f;&#x2068;%1&#x2069;: &#x2068;%2&#x2069;. اختر مجلدًا آخر.</translation>
     </message>
     <message>
         <source>No songs here yet</source>
@@ -136,11 +136,11 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>Put music into %1, or choose another folder.</source>
-        <translation>ضع الموسيقى في %1، أو اختر مجلدًا آخر.</translation>
+        <translation>ضع الموسيقى في &#x2068;%1&#x2069;، أو اختر مجلدًا آخر.</translation>
     </message>
     <message>
         <source>There is no tool named “%1”.</source>
-        <translation>لا توجد أداة اسمها «%1».</translation>
+        <translation>لا توجد أداة اسمها «&#x2068;%1&#x2069;».</translation>
     </message>
     <message>
         <source>There is no tool that the files could be passed to.</source>
@@ -152,7 +152,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: ‏%2</translation>
+        <translation>&#x200f;&#x2068;%1&#x2069;: &#x2068;%2&#x2069;</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -204,7 +204,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>The tool cannot be loaded: %1</source>
-        <translation>يتعذر تحميل الأداة: %1</translation>
+        <translation>يتعذر تحميل الأداة: &#x2068;%1&#x2069;</translation>
     </message>
     <message>
         <source>The plug-in has no tool in it, although it says so.</source>
@@ -212,7 +212,7 @@ Free software under the GNU General Public License, version 2 or later.</source>
     </message>
     <message>
         <source>Another tool has the same name, “%1”.</source>
-        <translation>أداة أخرى لها الاسم نفسه «%1».</translation>
+        <translation>أداة أخرى لها الاسم نفسه «&#x2068;%1&#x2069;».</translation>
     </message>
     <message>
         <source>1 song</source>
