@@ -146,7 +146,10 @@ Outcome<> burn(const BurnRequest &request, BurnObserver &observer, const std::st
     if (const auto error = request.drive->obstacle()) {
         return Interruption(*error);
     }
-    if (const auto error = discError(request.drive->name(), request.drive->state())) {
+    // A drive that is finding out what it holds looks again when the recording begins, and says
+    // then what is in the way: what is known until then would be about no disc.
+    const DriveState before = request.drive->state();
+    if (const auto error = discError(request.drive->name(), before); error && !before.checking) {
         return Interruption(*error);
     }
     auto made = request.makeContent(stop);
@@ -155,9 +158,9 @@ Outcome<> burn(const BurnRequest &request, BurnObserver &observer, const std::st
     }
     DiscContent &content = **made;
     const std::int64_t sectors = sectorsOf(content);
-    const std::int64_t free = request.drive->state().disc.freeSectors;
-    if (sectors > free) {
-        return Interruption(doesNotFitError(kindOf(content), sectors, free));
+    const DiscState disc = request.drive->state().disc;
+    if (disc.blank && sectors > disc.freeSectors) {
+        return Interruption(doesNotFitError(kindOf(content), sectors, disc.freeSectors));
     }
     Reporter reporter(observer, request.clock, sectors, request.verify);
     return recordContent(request, content, reporter, stop);

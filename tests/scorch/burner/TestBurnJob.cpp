@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-2.0-or-later
+#include "scorch/burner/BurnErrors.h"
 #include "scorch/burner/BurnJob.h"
 #include "tests/scorch/drive/FakeContent.h"
 #include "tests/scorch/drive/FakeDrive.h"
@@ -111,6 +112,26 @@ TEST_F(BurnJobTest, AListThatDoesNotFitIsRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(drive_->bytesRecorded(), 0U);
     drive_->setState(FakeDrive::blankCd(1000));
     EXPECT_TRUE(std::holds_alternative<BurnDone>(run(TrackKind::data, {1000})));
+}
+
+TEST_F(BurnJobTest, ADriveThatIsBeingCheckedIsAskedWhenTheRecordingBegins) {
+    drive_->setState({.canWriteCd = true, .checking = true, .disc = {}});
+    EXPECT_TRUE(std::holds_alternative<BurnDone>(run(TrackKind::data, {1000})));
+    drive_->setState({.canWriteCd = true, .checking = true, .disc = {}});
+    drive_->setStep([](const std::string &step, const std::stop_token &) -> Outcome<> {
+        return step == "begin" ? Interruption(noDriveError("Drive")) : Outcome<>();
+    });
+    EXPECT_EQ(codeOf(run(TrackKind::data, {1000})), ScorchErrorCode::noDrive);
+}
+
+TEST_F(BurnJobTest, ADiscThatIsCheckedAnewMeanwhileHasNotBecomeTooSmall) {
+    request_.drive = drive_;
+    request_.makeContent = [this](const std::stop_token &) {
+        drive_->setState({.canWriteCd = true, .checking = true, .disc = {}});
+        return Outcome<std::unique_ptr<DiscContent>>(std::make_unique<FakeContent>(
+            TrackKind::data, std::vector<std::int64_t>{1000}, "Name"));
+    };
+    EXPECT_TRUE(std::holds_alternative<BurnDone>(runBurn(request_, observer_, {})));
 }
 
 TEST_F(BurnJobTest, ADiscThatCannotBeBurnedIsRefusedBeforeSourcesAreOpened) {
