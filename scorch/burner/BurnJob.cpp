@@ -126,7 +126,7 @@ Outcome<> recordContent(const BurnRequest &request, DiscContent &content, Report
         return recorded;
     }
     if (request.verify) {
-        const auto verified = verify(*recording, checked, reporter, stop);
+        auto verified = verify(*recording, checked, reporter, stop);
         const bool isStopped = !verified && isCancelled(verified.error());
         if (!verified && !(isStopped && recording->isComplete())) {
             return verified;
