@@ -18,6 +18,18 @@ ControllerTest::~ControllerTest() {
     drainMainQueue();
 }
 
+void ControllerTest::inEachStateOfTheDrive(const std::function<void()> &check) {
+    FakeDrive &drive = engine.drives.front();
+    for (int state = 0; state < 4; ++state) {
+        drive.hasDisc = state != 0;
+        drive.isBlank = state != 1;
+        drive.isChecking = state == 2;
+        drive.cannotBurn = state == 3;
+        controller->deviceStatusDidChanged();
+        check();
+    }
+}
+
 void ControllerTest::letGo() {
     if (controller != nullptr) {
         controller->detach();

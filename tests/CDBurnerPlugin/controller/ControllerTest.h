@@ -25,6 +25,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -43,6 +44,9 @@ protected:
     /// openWithBlankDisc() with that many songs in the audio list.
     void openWithSongs(int count);
     void letGo();
+
+    /// Has the first drive be in each state in turn that the box has a tip for, and checks.
+    void inEachStateOfTheDrive(const std::function<void()> &check);
 
     template <class Widget>
     Widget *find(const char *name) const {

@@ -120,33 +120,21 @@ TEST_P(Fitting, EmptyListWithoutADrive) {
 }
 
 TEST_P(Fitting, EachStateOfTheDrive) {
-    FakeDrive &drive = engine.addDrive("Drive");
+    engine.addDrive("Drive");
     open();
-    for (int state = 0; state < 4; ++state) {
-        drive.hasDisc = state != 0;
-        drive.isBlank = state != 1;
-        drive.isChecking = state == 2;
-        drive.cannotBurn = state == 3;
-        controller->deviceStatusDidChanged();
-        expectWindowFits();
-    }
+    inEachStateOfTheDrive([this] { expectWindowFits(); });
 }
 
 TEST_P(Fitting, EachStateOfTheDriveInTheSmallestWindow) {
-    FakeDrive &drive = engine.addDrive("Drive");
+    engine.addDrive("Drive");
     open();
     controller->window()->resize(1, 1);
-    for (int state = 0; state < 4; ++state) {
-        drive.hasDisc = state != 0;
-        drive.isBlank = state != 1;
-        drive.isChecking = state == 2;
-        drive.cannotBurn = state == 3;
-        controller->deviceStatusDidChanged();
+    inEachStateOfTheDrive([this] {
         const auto *const tips = find<ErrorTipsView>("_errorTipsView");
         // The layout goes up from the strip to the window, a step with each round of the loop.
         EXPECT_TRUE(runUntil([tips] { return tips->width() >= tips->sizeHint().width(); }))
             << tips->errorTips().toStdString();
-    }
+    });
 }
 
 TEST_P(Fitting, SheetWhileFilesAreAdded) {

@@ -100,17 +100,12 @@ TEST_F(WindowTexts, WithoutADriveComeFromTheTable) {
 }
 
 TEST_F(WindowTexts, OfEachStateOfTheDriveComeFromTheTable) {
-    FakeDrive &drive = engine.addDrive("Drive");
+    engine.addDrive("Drive");
     open();
-    for (int state = 0; state < 4; ++state) {
-        drive.hasDisc = state != 0;
-        drive.isBlank = state != 1;
-        drive.isChecking = state == 2;
-        drive.cannotBurn = state == 3;
-        controller->deviceStatusDidChanged();
+    inEachStateOfTheDrive([this] {
         EXPECT_EQ(outsideTheTable(QString::fromStdString(tip())), "");
         EXPECT_NE(tip(), "");
-    }
+    });
 }
 
 TEST_F(WindowTexts, OfFilesBeingAddedComeFromTheTable) {
