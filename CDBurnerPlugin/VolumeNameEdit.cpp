@@ -89,7 +89,8 @@ bool VolumeNameEdit::event(QEvent *event) {
 void VolumeNameEdit::keyPressEvent(QKeyEvent *event) {
     // Alt with a letter is somebody's mnemonic. While its control is disabled it comes here, and a
     // line edit would take it for typing.
-    if (event->modifiers().testFlag(Qt::AltModifier) && !event->text().isEmpty()) {
+    const QString typed = event->text();
+    if (event->modifiers().testFlag(Qt::AltModifier) && !typed.isEmpty() && typed[0].isPrint()) {
         event->ignore();
         return;
     }

@@ -62,6 +62,8 @@ TEST_F(VolumeNameEditTest, MnemonicOfADisabledControlIsNotTyped) {
     expect("name", 4);
     QTest::keyClick(&field_, 'b');
     expect("nameb", 5);
+    QTest::keyClick(&field_, Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_NE(field_.text(), QStringLiteral("nameb")) << "a key that is no letter is the field's";
 }
 
 TEST_F(VolumeNameEditTest, TypingStopsAtTheLimit) {
